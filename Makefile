@@ -1,0 +1,41 @@
+# The two everyday commands: `make demo` and `make test`. Each installs any
+# missing Debian package first, then configures and builds with CMake.
+
+PACKAGES := cmake make g++ pkg-config libxerces-c-dev libgtest-dev libgmock-dev libbenchmark-dev
+JOBS ?= 2
+BUILD := build
+ASAN_BUILD := build-asan
+
+.PHONY: all deps build build-asan demo test clean
+
+all: build
+
+deps:
+	@missing=""; \
+	for p in $(PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q 'install ok installed' || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:$$missing"; \
+	  SUDO=""; [ "$$(id -u)" -ne 0 ] && SUDO=sudo; \
+	  $$SUDO apt-get update && DEBIAN_FRONTEND=noninteractive $$SUDO apt-get install -y $$missing; \
+	fi
+
+build: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+	cmake --build $(BUILD) -j$(JOBS)
+
+build-asan: deps
+	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DZUNDO_SANITIZE=ON
+	cmake --build $(ASAN_BUILD) -j$(JOBS)
+
+demo: build
+	./$(BUILD)/tools/zundo --version
+
+test: build build-asan
+	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)
+	cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
+	  UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 ctest --output-on-failure -j$(JOBS)
+
+clean:
+	rm -rf $(BUILD) $(ASAN_BUILD)
