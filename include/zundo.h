@@ -167,6 +167,44 @@ ZUNDO_API zundo_status_t setRGBAttribute(zundo_int_object_s *object, const char 
                                          zundo_rgb_s *value);
 
 /* ------------------------------------------------------------------ */
+/* Job, document and job ticket                                        */
+/* ------------------------------------------------------------------ */
+
+/* A ticket owns its job, a job its documents; each of the three is
+ * destroyed with destroy(), copied with cloneObj() and compared with
+ * compareObjects(). Job and document also carry the print-parameter block
+ * under their prefix ("job-media", "document-sides"). */
+
+/* The job takes the document. 2 for a null out or a document that is not a
+ * "ZUNDO_DOCUMENT". "job-copies" starts at 1, "job-include-pages" at 0 ~ -1. */
+ZUNDO_API zundo_status_t newJob(zundo_int_object_s **out, zundo_int_object_s *document);
+ZUNDO_API zundo_status_t newJobNoDocument(zundo_int_object_s **out);
+/* Appends the document; the job takes ownership. A document belongs to one
+ * job only. */
+ZUNDO_API zundo_status_t addDocument(zundo_int_object_s *job, zundo_int_object_s *document);
+/* The job's own null-terminated document array (not a copy), or null. */
+ZUNDO_API zundo_int_object_s **getDocuments(zundo_int_object_s *job);
+/* "document-file-name" takes fileName (none when null). */
+ZUNDO_API zundo_status_t newDocument(zundo_int_object_s **out, const char *fileName);
+/* The ticket takes the job. */
+ZUNDO_API zundo_status_t newJobTicketInfoFromJob(zundo_int_object_s **out,
+                                                 zundo_int_object_s *job);
+/* The ticket's job (not a copy), or null. */
+ZUNDO_API zundo_int_object_s *getJob(zundo_int_object_s *ticket);
+/* Every distinct media the job uses: job, first binding, insert, separator
+ * and banner sheets, page ranges. The null-terminated list is released
+ * with freeMediaList, which leaves the media to their objects. */
+ZUNDO_API zundo_status_t getMedia(zundo_int_object_s *ticket, zundo_int_object_s ***out);
+ZUNDO_API zundo_status_t freeMediaList(zundo_int_object_s **list);
+ZUNDO_API int compareJobs(const zundo_int_object_s *a, const zundo_int_object_s *b);
+/* Compares the "jt-" attributes only, not the jobs. */
+ZUNDO_API int compareJobTicketInfos(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* ------------------------------------------------------------------ */
+/* Feature objects                                                     */
+/* ------------------------------------------------------------------ */
+
+/* ------------------------------------------------------------------ */
 /* Value objects                                                       */
 /* ------------------------------------------------------------------ */
 
@@ -384,7 +422,7 @@ class XMLTranscoder;
 
 /* Converts between UTF-8 char text and the XML library's 16-bit text
  * (XMLCh, which is char16_t). Every returned buffer belongs to the caller
- * and is freed with release(). */
+ * and is freed with release(); a null text converts to null. */
 class ZUNDO_API UTF8Transcoder {
 public:
     UTF8Transcoder() = delete;
