@@ -204,6 +204,236 @@ ZUNDO_API int compareJobTicketInfos(const zundo_int_object_s *a, const zundo_int
 /* Feature objects                                                     */
 /* ------------------------------------------------------------------ */
 
+/* Finishing, media, layout, colour, notification and audit objects. Each
+ * type has a constructor new<Type>, a clone<Type> (2 for a null argument)
+ * and a compare<Type> (0 when equal); destroy, cloneObj, compareObjects,
+ * get and set work on all of them.
+ *
+ * Constructors set their arguments through set, so the type's rules apply
+ * to them. They return 2 for a null out pointer or a refused argument, 6
+ * when memory is exhausted, 1 when the object cannot be made; on failure
+ * *out is null. Texts are copied. Value objects and sub-objects handed to a
+ * constructor (ranges, date-times, media, holes) pass to the new object in
+ * every case: when construction fails they are destroyed. */
+
+/* Reference edges, types, shapes, classes and names are enumeration codes
+ * (0: not set). */
+ZUNDO_API zundo_status_t newBannerSheet(zundo_int_object_s **out, int type);
+ZUNDO_API zundo_status_t cloneBannerSheet(zundo_int_object_s **out,
+                                          const zundo_int_object_s *source);
+ZUNDO_API int compareBannerSheet(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newBinding(zundo_int_object_s **out, int type, int referenceEdge);
+ZUNDO_API zundo_status_t cloneBinding(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareBinding(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newCalibrationType(zundo_int_object_s **out, const char *productId);
+ZUNDO_API zundo_status_t cloneCalibrationType(zundo_int_object_s **out,
+                                              const zundo_int_object_s *source);
+ZUNDO_API int compareCalibrationType(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newColorPlane(zundo_int_object_s **out, const char *name);
+ZUNDO_API zundo_status_t cloneColorPlane(zundo_int_object_s **out,
+                                         const zundo_int_object_s *source);
+ZUNDO_API int compareColorPlane(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newContactInfo(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneContactInfo(zundo_int_object_s **out,
+                                          const zundo_int_object_s *source);
+ZUNDO_API int compareContactInfo(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* The format is required and may not be empty. */
+ZUNDO_API zundo_status_t newContainer(zundo_int_object_s **out, const char *format,
+                                      const char *fileName);
+ZUNDO_API zundo_status_t cloneContainer(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int compareContainerAttrValue(const zundo_int_object_s *a, const zundo_int_object_s *b);
+/* 1 when both are containers with equal attributes (or the same pointer). */
+ZUNDO_API int containerEquals(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newFolding(zundo_int_object_s **out, const char *type);
+ZUNDO_API zundo_status_t cloneFolding(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareFolding(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newHole(zundo_int_object_s **out, double centerX, double centerY,
+                                 double extentX, double extentY, int shape);
+ZUNDO_API zundo_status_t newHoleEmpty(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneHole(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareHole(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newHoleLine(zundo_int_object_s **out, double pitch,
+                                     zundo_int_object_s *hole);
+ZUNDO_API zundo_status_t newHoleLineEmpty(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneHoleLine(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int compareHoleLine(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newHoleList(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneHoleList(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int compareHoleList(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newHoleMaking(zundo_int_object_s **out, int count, int referenceEdge);
+ZUNDO_API zundo_status_t cloneHoleMaking(zundo_int_object_s **out,
+                                         const zundo_int_object_s *source);
+ZUNDO_API int compareHoleMaking(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newInkUsage(zundo_int_object_s **out, int name);
+ZUNDO_API zundo_status_t cloneInkUsage(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int compareInkUsage(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* pages and sheets are null-terminated Range arrays; pages and media may be
+ * null. An insert sheet holds pages or sheets, never both. */
+ZUNDO_API zundo_status_t newInsertSheet(zundo_int_object_s **out, int position,
+                                        zundo_range_s *const *pages, zundo_int_object_s *media);
+ZUNDO_API zundo_status_t newInsertSheetWithSheets(zundo_int_object_s **out, int position,
+                                                  zundo_range_s *const *sheets);
+ZUNDO_API zundo_status_t cloneInsertSheet(zundo_int_object_s **out,
+                                          const zundo_int_object_s *source);
+ZUNDO_API int compareInsertSheet(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* The text format is required; the rotation is 0-359 (-1: not set). */
+ZUNDO_API zundo_status_t newMark(zundo_int_object_s **out, const char *textFormat, int rotation,
+                                 double placementX, double placementY);
+ZUNDO_API zundo_status_t cloneMark(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareMark(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* The name may be null. */
+ZUNDO_API zundo_status_t newMedia(zundo_int_object_s **out, const char *name);
+ZUNDO_API zundo_status_t cloneMedia(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareMedia(const zundo_int_object_s *a, const zundo_int_object_s *b);
+/* 1 when compareMedia reports equal. */
+ZUNDO_API int mediaEquals(const zundo_int_object_s *a, const zundo_int_object_s *b);
+/* Exchanges "media-x-dimension" and "media-y-dimension". */
+ZUNDO_API void swapDimensions(zundo_int_object_s *media);
+
+/* A feature with one value made from value. */
+ZUNDO_API zundo_status_t newNamedFeature(zundo_int_object_s **out, const char *name,
+                                         const char *value);
+ZUNDO_API zundo_status_t cloneNamedFeature(zundo_int_object_s **out,
+                                           const zundo_int_object_s *source);
+ZUNDO_API int compareNamedFeature(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newNamedFeatureValue(zundo_int_object_s **out, const char *value);
+ZUNDO_API zundo_status_t cloneNamedFeatureValue(zundo_int_object_s **out,
+                                                const zundo_int_object_s *source);
+ZUNDO_API int compareNamedFeatureValue(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* sendTo and events are null-terminated text arrays. events is required;
+ * sendTo is null exactly when deliveryType is 0 (not set). */
+ZUNDO_API zundo_status_t newNotification(zundo_int_object_s **out, const char *const *sendTo,
+                                         const char *const *events, int deliveryType);
+ZUNDO_API zundo_status_t cloneNotification(zundo_int_object_s **out,
+                                           const zundo_int_object_s *source);
+ZUNDO_API int compareNotificationAttrValue(const zundo_int_object_s *a,
+                                           const zundo_int_object_s *b);
+
+/* The time stamp may be null. */
+ZUNDO_API zundo_status_t newNotificationAudit(zundo_int_object_s **out, int auditClass,
+                                              zundo_date_time_s *timeStamp);
+ZUNDO_API zundo_status_t cloneNotificationAudit(zundo_int_object_s **out,
+                                                const zundo_int_object_s *source);
+ZUNDO_API int compareNotificationAudit(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* Page cells and page ranges carry the print-parameter block under the
+ * prefixes "page-cell-" and "page-range-". cells is required; a null pages
+ * range stands for all pages, 0 ~ -1. */
+ZUNDO_API zundo_status_t newPageCellInfo(zundo_int_object_s **out, zundo_range_s *cells);
+ZUNDO_API zundo_status_t clonePageCell(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int comparePageCell(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newPageRange(zundo_int_object_s **out, zundo_range_s *pages,
+                                      zundo_int_object_s *media);
+ZUNDO_API zundo_status_t clonePageRange(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int comparePageRange(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newPagination(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t clonePagination(zundo_int_object_s **out,
+                                         const zundo_int_object_s *source);
+ZUNDO_API int comparePagination(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* All four arguments are required. */
+ZUNDO_API zundo_status_t newPhaseTime(zundo_int_object_s **out, int type, const char *deviceId,
+                                      zundo_date_time_s *startTime,
+                                      zundo_date_time_s *timeStamp);
+ZUNDO_API zundo_status_t clonePhaseTime(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int comparePhaseTime(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* The date-times may be null; the end status is required. */
+ZUNDO_API zundo_status_t newProcessRun(zundo_int_object_s **out, zundo_date_time_s *end,
+                                       int endStatus, zundo_date_time_s *start,
+                                       zundo_date_time_s *timeStamp);
+ZUNDO_API zundo_status_t cloneProcessRun(zundo_int_object_s **out,
+                                         const zundo_int_object_s *source);
+ZUNDO_API int compareProcessRun(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newProofPrint(zundo_int_object_s **out, int copies);
+ZUNDO_API zundo_status_t cloneProofPrint(zundo_int_object_s **out,
+                                         const zundo_int_object_s *source);
+ZUNDO_API int compareProofPrint(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newRegisterMark(zundo_int_object_s **out, int name);
+ZUNDO_API zundo_status_t cloneRegisterMark(zundo_int_object_s **out,
+                                           const zundo_int_object_s *source);
+ZUNDO_API int compareRegisterMark(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newRetain(zundo_int_object_s **out, int action);
+ZUNDO_API zundo_status_t cloneRetain(zundo_int_object_s **out, const zundo_int_object_s *source);
+ZUNDO_API int compareRetain(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newRipParams(zundo_int_object_s **out, int blackDetection,
+                                      int brightness, int combinedSeparations, int createMaster,
+                                      int digitalPressMode, int imageSmooth, int mirror,
+                                      int negative, int printMode, int removeWhitePptBackground,
+                                      int textGraphicEnhancement, int useMaster);
+ZUNDO_API zundo_status_t cloneRipParams(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int compareRipParamsAttrValue(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newScreening(zundo_int_object_s **out, const char *family,
+                                      double frequency);
+ZUNDO_API zundo_status_t newScreeningEmpty(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneScreening(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int compareScreening(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newSeparatorSheet(zundo_int_object_s **out, int type,
+                                           zundo_int_object_s *media);
+ZUNDO_API zundo_status_t cloneSeparatorSheet(zundo_int_object_s **out,
+                                             const zundo_int_object_s *source);
+ZUNDO_API int compareSeparatorSheet(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+/* count: at least 1, or -1 (not set); type is required. */
+ZUNDO_API zundo_status_t newStitching(zundo_int_object_s **out, int count, int referenceEdge,
+                                      int type);
+ZUNDO_API zundo_status_t cloneStitching(zundo_int_object_s **out,
+                                        const zundo_int_object_s *source);
+ZUNDO_API int compareStitching(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newTrapping(zundo_int_object_s **out, int type);
+ZUNDO_API zundo_status_t cloneTrapping(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int compareTrapping(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newTrimBleedMark(zundo_int_object_s **out, int name);
+ZUNDO_API zundo_status_t cloneTrimBleedMark(zundo_int_object_s **out,
+                                            const zundo_int_object_s *source);
+ZUNDO_API int compareTrimBleedMark(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newTrimming(zundo_int_object_s **out, int type);
+ZUNDO_API zundo_status_t cloneTrimming(zundo_int_object_s **out,
+                                       const zundo_int_object_s *source);
+ZUNDO_API int compareTrimming(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
+ZUNDO_API zundo_status_t newUsageCounter(zundo_int_object_s **out);
+ZUNDO_API zundo_status_t cloneUsageCounter(zundo_int_object_s **out,
+                                           const zundo_int_object_s *source);
+ZUNDO_API int compareUsageCounter(const zundo_int_object_s *a, const zundo_int_object_s *b);
+
 /* ------------------------------------------------------------------ */
 /* Value objects                                                       */
 /* ------------------------------------------------------------------ */

@@ -20,7 +20,8 @@ struct zundo_object_type_s {
     // accepted the attribute; null when the type has none. The iterator is
     // reset before and after.
     zundo_status_t (*validate)(void *data, const char *name, zundo_int_attribute_s *attribute);
-    // A fresh object with arguments that pass validation, used by clone.
+    // A fresh object with arguments that pass validation, used by clone;
+    // a type without one cannot be cloned.
     zundo_status_t (*newNeutral)(zundo_int_object_s **out);
     // Frees members of the record that are not table fields; may be null.
     void (*releaseExtra)(void *data);
@@ -70,6 +71,8 @@ void typeDestroy(zundo_int_object_s *object) {
 template <const zundo_object_type_s &T>
 zundo_status_t typeClone(zundo_int_object_s **out, const zundo_int_object_s *source) {
     if (out == nullptr || source == nullptr) return ZUNDO_INVALID_ARGUMENT;
+    // Another type's record does not fit this type's table.
+    if (std::strcmp(source->type, T.type) != 0) return ZUNDO_INVALID_ARGUMENT;
     zundo_int_object_s *copy = nullptr;
     zundo_status_t status = T.newNeutral(&copy);
     if (status != ZUNDO_OK) return status;
@@ -86,6 +89,8 @@ template <const zundo_object_type_s &T>
 int typeCompare(const zundo_int_object_s *a, const zundo_int_object_s *b) {
     if (a == b) return 0;
     if (a == nullptr || b == nullptr) return 1;
+    // Another type's record does not fit this type's table.
+    if (std::strcmp(a->type, T.type) != 0 || std::strcmp(b->type, T.type) != 0) return 1;
     if (genericCompare(typeTable<T>()->table, a, b) != 0) return 1;
     return T.compareExtra != nullptr ? T.compareExtra(a, b) : 0;
 }
@@ -110,7 +115,7 @@ zundo_status_t newTypedObject(zundo_int_object_s **out, const char *operation) {
     object->destroyHook = typeDestroy<T>;
     object->getHook = typeGet<T>;
     object->setHook = typeSet<T>;
-    object->cloneHook = typeClone<T>;
+    object->cloneHook = T.newNeutral != nullptr ? typeClone<T> : nullptr;
     object->compareHook = typeCompare<T>;
     *out = object;
     return ZUNDO_OK;

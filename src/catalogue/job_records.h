@@ -7,10 +7,12 @@
 #ifndef ZUNDO_JOB_RECORDS_H
 #define ZUNDO_JOB_RECORDS_H
 
+#include "job/read_env.h"
 #include "zundo_object.h"
 
 struct zundo_job_ticket_data_s {
     zundo_int_object_s *job;  // owned
+    zundo_read_env_s readEnv;  // used only while a ticket is read
     char **apiVersion;
     char **apiVersionFromJt;
     char **charset;

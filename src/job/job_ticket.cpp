@@ -1,0 +1,164 @@
+// The job-ticket info: the root of the tree, owner of the job, holder of
+// the "jt-" attributes and of the reader's working area.
+#include <cstdlib>
+#include <cstring>
+
+#include "catalogue/job_records.h"
+#include "catalogue/type_names.h"
+#include "job/job_objects.h"
+#include "job/text_checks.h"
+#include "zundo_object_type.h"
+#include "zundo_trace.h"
+
+namespace {
+
+bool isAsciiLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+bool isValidNodeId(const char *text) {
+    return (text[0] == '_' || isAsciiLetter(text[0])) && !containsBlank(text) &&
+           std::strchr(text, ':') == nullptr;
+}
+
+zundo_status_t checkNodeId(const char *name, zundo_int_attribute_s *attribute) {
+    if (!hasNextValue(attribute)) {
+        zundo_trace("%s cannot be NULL\n", name);
+        return ZUNDO_INVALID_ARGUMENT;
+    }
+    for (int i = 0; i < attribute->count; i++) {
+        const char *text = static_cast<const char *>(valueAt(attribute, i));
+        if (text == nullptr) {
+            zundo_trace("%s cannot be NULL\n", name);
+            return ZUNDO_INVALID_ARGUMENT;
+        }
+        if (!isValidNodeId(text)) {
+            zundo_trace("%s must be a string that contains no space or colon (':') characters and "
+                        "\t\t\t\t\t\t\tstarts with a letter, or underscore ('_').\n",
+                        name);
+            return ZUNDO_INVALID_ARGUMENT;
+        }
+    }
+    return ZUNDO_OK;
+}
+
+zundo_status_t validateTicket(void *, const char *name, zundo_int_attribute_s *attribute) {
+    // Written by the constructor only.
+    if (std::strcmp(name, "jt-syntax-version") == 0 || std::strcmp(name, "jt-api-version") == 0)
+        return ZUNDO_NOT_FOUND;
+    if (std::strcmp(name, "jt-jdf-node-id") == 0) return checkNodeId(name, attribute);
+    if (std::strcmp(name, "jt-type") != 0 || !hasNextValue(attribute)) return ZUNDO_OK;
+    for (int i = 0; i < attribute->count; i++) {
+        const char *text = static_cast<const char *>(valueAt(attribute, i));
+        if (text != nullptr && isBlankText(text)) {
+            zundo_trace("Attempted to set %s to empty string or a string that contains only "
+                        "spaces.\n",
+                        name);
+            return ZUNDO_INVALID_ARGUMENT;
+        }
+    }
+    return ZUNDO_OK;
+}
+
+// Destroyed by destroyTicket and cloned by cloneTicket, which need the job.
+const zundo_object_type_s kTicketType = {
+    ZUNDO_TYPE_JOB_TICKET, "destroyJobTicketInfo", sizeof(zundo_job_ticket_data_s),
+    validateTicket, nullptr, nullptr, nullptr,
+};
+
+// The job goes first, then the fields; a pending binding media that no
+// binding took dies with the ticket.
+void destroyTicket(zundo_int_object_s *object) {
+    if (!isObjectOfType(object, ZUNDO_TYPE_JOB_TICKET)) {
+        zundo_trace("invalid object passed to destroyJobTicketInfo\n");
+        return;
+    }
+    auto *data = static_cast<zundo_job_ticket_data_s *>(object->data);
+    if (data->job != nullptr) destroy(data->job);
+    if (data->readEnv.pendingBindingMedia != nullptr) destroy(data->readEnv.pendingBindingMedia);
+    genericDestroy(jobTicketAttributes, data);
+    std::free(data);
+    object->data = nullptr;
+}
+
+// Bypasses the validator, which refuses these names.
+zundo_status_t storeDirectly(void *data, const char *name, const char *text) {
+    zundo_int_attribute_s *attribute = nullptr;
+    zundo_status_t status = newAttribute(&attribute, name, ZUNDO_KIND_STRING, text);
+    if (status != ZUNDO_OK) return status;
+    status = genericSet(jobTicketAttributes, jobTicketAttributeRows, data, name, attribute);
+    destroyAttribute(attribute);
+    return status;
+}
+
+// Two tickets must not share a job (each destroys its own), so the clone
+// gets a clone of the source's job.
+zundo_status_t cloneTicket(zundo_int_object_s **out, const zundo_int_object_s *source) {
+    if (out == nullptr || !isObjectOfType(source, ZUNDO_TYPE_JOB_TICKET))
+        return ZUNDO_INVALID_ARGUMENT;
+    const auto *data = static_cast<const zundo_job_ticket_data_s *>(source->data);
+    zundo_int_object_s *job = cloneObj(data->job);
+    if (job == nullptr) return ZUNDO_ERROR;
+    zundo_int_object_s *copy = nullptr;
+    zundo_status_t status = newJobTicketInfoFromJob(&copy, job);
+    if (status != ZUNDO_OK) {
+        destroy(job);
+        return status;
+    }
+    status = genericClone(jobTicketAttributes, source, copy);
+    if (status != ZUNDO_OK) {
+        destroy(copy);
+        return status;
+    }
+    *out = copy;
+    return ZUNDO_OK;
+}
+
+}  // namespace
+
+extern "C" {
+
+zundo_status_t newJobTicketInfoFromJob(zundo_int_object_s **out, zundo_int_object_s *job) {
+    if (out == nullptr || !isObjectOfType(job, ZUNDO_TYPE_JOB)) return ZUNDO_INVALID_ARGUMENT;
+    zundo_int_object_s *ticket = nullptr;
+    zundo_status_t status = newTypedObject<kTicketType>(&ticket, "newJobTicketInfoFromJob");
+    if (status != ZUNDO_OK) return status;
+    ticket->destroyHook = destroyTicket;
+    ticket->cloneHook = cloneTicket;
+    ticket->compareHook = compareJobTicketInfos;
+    auto *data = static_cast<zundo_job_ticket_data_s *>(ticket->data);
+    clearProcessTable(&data->readEnv);
+    status = storeDirectly(data, "jt-syntax-version", "1.4");
+    if (status == ZUNDO_OK)
+        status = storeDirectly(data, "jt-api-version", getZUNDOCurrentVersion());
+    if (status == ZUNDO_OK)
+        status = setSingleValue(ticket, "jt-charset", ZUNDO_KIND_STRING, "UTF-8");
+    if (status == ZUNDO_OK) status = setSingleValue(ticket, "jt-type", ZUNDO_KIND_STRING, "JDF");
+    if (status != ZUNDO_OK) {
+        destroy(ticket);  // the job is not yet stored and stays the caller's
+        return status;
+    }
+    data->job = job;
+    *out = ticket;
+    return ZUNDO_OK;
+}
+
+zundo_int_object_s *getJob(zundo_int_object_s *ticket) {
+    if (!isObjectOfType(ticket, ZUNDO_TYPE_JOB_TICKET)) {
+        zundo_trace("passed non-job ticket info object to getJob");
+        return nullptr;
+    }
+    zundo_int_object_s *owner = findOwnerRecord(ticket, ZUNDO_TYPE_JOB_TICKET);
+    if (owner == nullptr || owner->data == nullptr) {
+        zundo_trace("no job found for job ticket info in getJob\n");
+        return nullptr;
+    }
+    return static_cast<zundo_job_ticket_data_s *>(owner->data)->job;
+}
+
+int compareJobTicketInfos(const zundo_int_object_s *a, const zundo_int_object_s *b) {
+    if (a == b) return 0;
+    if (!isObjectOfType(a, ZUNDO_TYPE_JOB_TICKET) || !isObjectOfType(b, ZUNDO_TYPE_JOB_TICKET))
+        return 1;
+    return typeCompare<kTicketType>(a, b);
+}
+
+}  // extern "C"
