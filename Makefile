@@ -31,6 +31,9 @@ build-asan: deps
 
 demo: build
 	./$(BUILD)/tools/zundo --version
+	./$(BUILD)/tools/zundo dump examples/brochure.jdf
+	./$(BUILD)/tools/zundo convert examples/brochure.jdf $(BUILD)/brochure-converted.jdf
+	@echo "converted ticket written to $(BUILD)/brochure-converted.jdf"
 
 test: build build-asan
 	cd $(BUILD) && ctest --output-on-failure -j$(JOBS)

@@ -641,6 +641,35 @@ typedef struct zundo_result_t {
     int column;
 } zundo_result_t;
 
+/* ------------------------------------------------------------------ */
+/* Reading job tickets                                                 */
+/* ------------------------------------------------------------------ */
+
+/* A new job-ticket object read from a NUL-terminated UTF-8 JDF text; the
+ * caller destroys it with destroy(). On failure *out is left without a
+ * ticket and the result carries the status (with the parser's line and
+ * column for ZUNDO_PARSE_FAILED). */
+ZUNDO_API zundo_result_t newJobTicketInfoFromString(zundo_int_object_s **out, const char *text);
+/* The same from a file named by a "file://" URL or a plain path. */
+ZUNDO_API zundo_result_t newJobTicketInfoFromURL(zundo_int_object_s **out, const char *url);
+/* The same from an open stream, read from its start. */
+ZUNDO_API zundo_result_t newJobTicketInfoFromStream(zundo_int_object_s **out, FILE *stream);
+/* Reads a text into an existing ticket. */
+ZUNDO_API zundo_status_t readJobTicketString(const char *text, zundo_int_object_s *ticket);
+
+/* ------------------------------------------------------------------ */
+/* Writing job tickets                                                 */
+/* ------------------------------------------------------------------ */
+
+/* Writes the ticket as a JDF 1.4 job ticket. The text stored in *out is
+ * released with releaseJobTicketString. */
+ZUNDO_API zundo_status_t writeJobTicketString(zundo_int_object_s *jobTicket, char **out);
+/* Writes the text to an open stream, which is neither flushed nor closed. */
+ZUNDO_API zundo_status_t writeJobTicketStream(zundo_int_object_s *jobTicket, FILE *stream);
+/* Writes to a file named by a "file://" URL or a plain path. */
+ZUNDO_API zundo_status_t writeJobTicketURL(zundo_int_object_s *jobTicket, const char *url);
+ZUNDO_API void releaseJobTicketString(char *text);
+
 #ifdef __cplusplus
 }
 #endif

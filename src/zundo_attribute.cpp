@@ -1,5 +1,6 @@
 // Attribute records: a name, a value kind and a growable list of values with
 // an iterator that honours the attribute's not-set value.
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -23,8 +24,10 @@ size_t slotSize(const char *kind) {
     return sizeof(void *);
 }
 
+// The first value allocates five slots; after that the array doubles, so a
+// list built value by value costs linear time however long it gets.
 zundo_status_t reallocValueArray(zundo_int_attribute_s *attribute) {
-    int capacity = attribute->capacity + kGrowthSlots;
+    int capacity = attribute->capacity + std::max(kGrowthSlots, attribute->capacity);
     void *grown = std::realloc(attribute->values, slotSize(attribute->kind) * capacity);
     if (grown == nullptr) {
         traceOutOfMemory("reallocValueArray");

@@ -1,0 +1,138 @@
+// The reader dispatch tables. A resource reader joins the read by taking
+// its row here.
+#include "read/resource_dispatch.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include "read/job_node_readers.h"
+#include "zundo_trace.h"
+
+namespace {
+
+zundo_status_t collectFileSpec(xercesc::DOMElement *resource, const char *,
+                               ResourceReadContext *context) {
+    return addIdElementToList(resource, &context->fileList, nullptr);
+}
+
+// The entries carry the Media element; no media object is made of it here.
+zundo_status_t collectMedia(xercesc::DOMElement *resource, const char *,
+                            ResourceReadContext *context) {
+    return addIdElementToList(resource, &context->mediaList, nullptr);
+}
+
+zundo_status_t readNodeInfo(xercesc::DOMElement *resource, const char *,
+                            ResourceReadContext *context) {
+    return readNodeInfoResource(resource, context->ticket);
+}
+
+template <typename Row>
+const Row *findRow(const Row *table, size_t rows, const char *name) {
+    if (table == nullptr || name == nullptr) return nullptr;
+    const Row *end = table + rows;
+    const Row *row = std::lower_bound(table, end, name, [](const Row &candidate, const char *key) {
+        return std::strcmp(candidate.name, key) < 0;
+    });
+    return row != end && std::strcmp(row->name, name) == 0 ? row : nullptr;
+}
+
+}  // namespace
+
+const ResourceReaderRow kFileSpecPassReaders[] = {
+    {"FileSpec", collectFileSpec, false},
+};
+const size_t kFileSpecPassReaderCount = sizeof(kFileSpecPassReaders) / sizeof(ResourceReaderRow);
+
+const ResourceReaderRow kLayoutPassReaders[] = {
+    {"LayoutElement", nullptr, false},
+    {"Media", collectMedia, false},
+    {"RunList", nullptr, false},
+};
+const size_t kLayoutPassReaderCount = sizeof(kLayoutPassReaders) / sizeof(ResourceReaderRow);
+
+const ResourceReaderRow kColourPassReaders[] = {
+    {"ColorSpaceConversionParams", nullptr, false},
+    {"ColorantControl", nullptr, false},
+};
+const size_t kColourPassReaderCount = sizeof(kColourPassReaders) / sizeof(ResourceReaderRow);
+
+const ResourceReaderRow kParameterPassReaders[] = {
+    {"Component", nullptr, false},
+    {"CoverApplicationParams", nullptr, false},
+    {"CustomerInfo", nullptr, false},
+    {"Device", nullptr, true},
+    {"DigitalPrintingParams", nullptr, false},
+    {"FoldingParams", nullptr, false},
+    {"FontPolicy", nullptr, false},
+    {"HoleMakingParams", nullptr, false},
+    {"Ink", nullptr, false},
+    {"InterpretingParams", nullptr, false},
+    {"Layout", nullptr, false},
+    {"LayoutPreparationParams", nullptr, false},
+    {"NodeInfo", readNodeInfo, false},
+    {"PDLResourceAlias", nullptr, false},
+    {"PrintCondition", nullptr, false},
+    {"RenderingParams", nullptr, false},
+    {"RingBindingParams", nullptr, false},
+    {"RunList", nullptr, false},
+    {"ScreeningParams", nullptr, false},
+    {"SpineTapingParams", nullptr, false},
+    {"StitchingParams", nullptr, false},
+    {"TrappingDetails", nullptr, false},
+    {"TrimmingParams", nullptr, false},
+    {"UsageCounter", nullptr, false},
+    {"WireCombBindingParams", nullptr, false},
+    {"morvellan:CalibrationTypeParams", nullptr, false},
+    {"morvellan:RecordInfo", nullptr, false},
+    {"morvellan:StrippingParams", nullptr, false},
+};
+const size_t kParameterPassReaderCount = sizeof(kParameterPassReaders) / sizeof(ResourceReaderRow);
+
+const ResourceReaderRow kNodePoolReaders[] = {
+    {"AuditPool", nullptr, false},
+};
+const size_t kNodePoolReaderCount = sizeof(kNodePoolReaders) / sizeof(ResourceReaderRow);
+
+const LinkReaderRow kLinkReaders[] = {
+    {"ComponentLink", nullptr},
+    {"RunListLink", nullptr},
+};
+const size_t kLinkReaderCount = sizeof(kLinkReaders) / sizeof(LinkReaderRow);
+
+void freeLayoutElementList(LayoutElementPair **list) {
+    if (list == nullptr) return;
+    for (LayoutElementPair **pair = list; *pair != nullptr; ++pair) {
+        delete[](*pair)->id;
+        std::free(*pair);
+    }
+    std::free(list);
+}
+
+const ResourceReaderRow *findResourceReaderRow(const ResourceReaderRow *table, size_t rows,
+                                               const char *name) {
+    return findRow(table, rows, name);
+}
+
+const LinkReaderRow *findLinkReaderRow(const LinkReaderRow *table, size_t rows, const char *name) {
+    return findRow(table, rows, name);
+}
+
+void runResourcePass(ElementEntry *const *resources, const ResourceReaderRow *table, size_t rows,
+                     ResourceReadContext *context) {
+    std::unique_ptr<bool[]> read(new (std::nothrow) bool[rows]());
+    if (read == nullptr) {
+        traceOutOfMemory("runResourcePass");
+        return;
+    }
+    for (ElementEntry *const *entry = resources; entry != nullptr && *entry != nullptr; ++entry) {
+        const ResourceReaderRow *row = findRow(table, rows, (*entry)->name);
+        if (row == nullptr || row->reader == nullptr) continue;
+        bool &rowRead = read[row - table];
+        if (row->firstOfPoolOnly && rowRead) continue;
+        rowRead = true;
+        row->reader((*entry)->element, (*entry)->name, context);
+    }
+}

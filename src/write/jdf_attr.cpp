@@ -1,0 +1,119 @@
+// Attributes on resources and their partitions.
+#include "write/jdf_attr.h"
+
+#include <cstring>
+#include <new>
+#include <vector>
+
+#include "xml/partitions.h"
+#include "zundo_trace.h"
+
+namespace {
+
+const char kLayoutPreparationParams[] = "LayoutPreparationParams";
+
+typedef std::vector<xercesc::DOMElement *> ElementVector;
+
+bool hasAttributeValue(const xercesc::DOMElement *element, const char *name, const char *value) {
+    AttributeEntry *entry = nullptr;
+    getAttrByName(element, name, &entry);
+    bool matches = entry != nullptr && (value == nullptr || std::strcmp(entry->value, value) == 0);
+    freeAttrEntry(entry);
+    return matches;
+}
+
+// Appends the child partitions of parent that carry key (with that value
+// when one is given).
+void collectPartitions(xercesc::DOMElement *parent, const char *key, const char *value,
+                       ElementVector *out) {
+    ElementEntry **children = nullptr;
+    if (findChildElements(parent, &children).status != ZUNDO_OK) return;
+    for (ElementEntry **child = children; *child != nullptr; ++child) {
+        if (hasTagName((*child)->element, kLayoutPreparationParams) &&
+            hasAttributeValue((*child)->element, key, value))
+            out->push_back((*child)->element);
+    }
+    freeElementList(children);
+}
+
+// The CellIndex children, the Side grandchildren under them, or the Side
+// children, whichever partition structure the page cells made.
+void collectCellLevelLeaves(const JDFWriteContext *ctx, xercesc::DOMElement *resource,
+                            ElementVector *leaves) {
+    bool sides = ctx->lppFrontSidePartitions || ctx->lppBackSidePartitions;
+    if (!ctx->lppCellPartitions) {
+        collectPartitions(resource, "Side", nullptr, leaves);
+        return;
+    }
+    if (!sides) {
+        collectPartitions(resource, "CellIndex", nullptr, leaves);
+        return;
+    }
+    ElementVector cells;
+    collectPartitions(resource, "CellIndex", nullptr, &cells);
+    for (xercesc::DOMElement *cell : cells) collectPartitions(cell, "Side", nullptr, leaves);
+}
+
+bool isCellLevelTarget(const JDFWriteContext *ctx, const xercesc::DOMElement *element,
+                       int cellLevel, const char *runRange) {
+    return cellLevel == 1 && runRange != nullptr &&
+           hasTagName(element, kLayoutPreparationParams) &&
+           (ctx->lppCellPartitions || ctx->lppFrontSidePartitions || ctx->lppBackSidePartitions);
+}
+
+zundo_status_t writeCellLevelAttr(const JDFWriteContext *ctx, xercesc::DOMElement *resource,
+                                  const char *name, const char *value, const char *runRange) {
+    if (value == nullptr) return ZUNDO_OK;
+    try {
+        ElementVector leaves;
+        collectCellLevelLeaves(ctx, resource, &leaves);
+        for (xercesc::DOMElement *leaf : leaves) {
+            ElementVector runs;
+            collectPartitions(leaf, "RunIndex", runRange, &runs);
+            if (runs.empty()) continue;
+            zundo_status_t status = setNamedAttribute(runs.front(), name, value);
+            if (status != ZUNDO_OK) zundo_trace("parser_error %i, \n", status);
+        }
+    } catch (const std::bad_alloc &) {
+        traceOutOfMemory("writeJDFAttr");
+        return ZUNDO_OUT_OF_MEMORY;
+    }
+    return ZUNDO_OK;
+}
+
+zundo_status_t setOnElementOrPartition(xercesc::DOMElement *element, const char *name,
+                                       const char *value, const char *runRange,
+                                       const char *documentIndex) {
+    const AttributeEntry entry = {name, value, documentIndex, runRange};
+    if (runRange == nullptr && documentIndex == nullptr)
+        return setElementAttribute(element, &entry).status;
+    if (documentIndex == nullptr)
+        return setSubPartitionAttr(element, &entry, "Run", "RunIndex", "RunIndex").status;
+    if (runRange == nullptr) return setDocIndexPartitionAttr(element, &entry).status;
+    return setDocRunIndexPartitionAttr(element, &entry).status;
+}
+
+}  // namespace
+
+zundo_status_t writeJDFAttr(JDFWriteContext *ctx, const char *name, const char *value,
+                            int cellLevel, const char *runRange, const char *documentIndex,
+                            ElementGetter getter) {
+    if (ctx == nullptr || name == nullptr || getter == nullptr) return ZUNDO_INVALID_ARGUMENT;
+    xercesc::DOMElement *element = getter(ctx);
+    if (element == nullptr) return ZUNDO_ERROR;
+    if (isCellLevelTarget(ctx, element, cellLevel, runRange))
+        return writeCellLevelAttr(ctx, element, name, value, runRange);
+    zundo_trace(">> entering writeJDFAttr %s \n", name);
+    zundo_status_t status = ZUNDO_OK;
+    if (value != nullptr) {
+        status = setOnElementOrPartition(element, name, value, runRange, documentIndex);
+        if (status != ZUNDO_OK) zundo_trace("parser_error %i, \n", status);
+    }
+    zundo_trace("<< leaving writeJDFAttr\n");
+    return status;
+}
+
+void setAttributeTraced(xercesc::DOMElement *element, const char *name, const char *value) {
+    zundo_status_t status = setNamedAttribute(element, name, value);
+    if (status != ZUNDO_OK) zundo_trace("parser_error %i, \n", status);
+}
