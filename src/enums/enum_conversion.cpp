@@ -9,12 +9,6 @@ namespace {
 
 const char *const booleanAttribute = "boolean-to-string";
 
-const char *nameOfCode(const zundo_enum_pair_s *pairs, int code) {
-    for (; pairs->jdf != nullptr; ++pairs)
-        if (pairs->code == code) return pairs->jdf;
-    return nullptr;
-}
-
 const zundo_enum_pair_s *pairOfName(const zundo_enum_pair_s *pairs, const char *name) {
     if (name == nullptr) return nullptr;
     for (; pairs->jdf != nullptr; ++pairs)
@@ -29,7 +23,7 @@ extern "C" {
 const char *getJDFValueFromInt(const char *attribute, int code) {
     const zundo_conversion_row_s *row = findConversionRow(attribute);
     if (row == nullptr || row->intToJDF == nullptr) return nullptr;
-    return nameOfCode(row->intToJDF, code);
+    return jdfNameForCode(row->intToJDF, code);
 }
 
 // A library string without a JDF form (a null JDF string) gives null.
@@ -61,7 +55,7 @@ const char *getZUNDOStringValue(const char *attribute, const char *jdfText) {
 
 // Reference edges and orientations share the reference-edge code table.
 const char *convertZUNDOReferenceEdgeToJDFOrientation(int code) {
-    const char *orientation = nameOfCode(referenceEdgeValues, code);
+    const char *orientation = jdfNameForCode(referenceEdgeValues, code);
     return orientation != nullptr ? orientation : "Rotate0";
 }
 

@@ -5,6 +5,13 @@
 
 #include "enums/conversion_table.h"
 
+// Status and StatusDetails of the JDF node.
+extern const zundo_enum_pair_s jdfNodeStatusValues[];
+extern const zundo_enum_pair_s jdfNodeStatusDetailsValues[];
+
+// The JDF name of the first pair with `code`, or null.
+const char *jdfNameForCode(const zundo_enum_pair_s *pairs, int code);
+
 extern const zundo_enum_pair_s bindingTypeValues[];
 extern const zundo_enum_pair_s interfaceBoxFunctionValues[];
 extern const zundo_enum_pair_s jobBindingEdgeValues[];

@@ -2,34 +2,12 @@
 // "job-" attributes of the job.
 #include <cstring>
 
+#include "enums/value_tables.h"
 #include "read/read_driver.h"
 #include "read/reader_conversions.h"
 #include "zundo_trace.h"
 
 namespace {
-
-// Status and StatusDetails of the JDF node, with the codes the writer
-// uses; the enumeration tables hold neither.
-const zundo_enum_pair_s kNodeStatusCodes[] = {{1, "Aborted"}, {2, "Completed"}, {3, "InProgress"},
-                                              {4, "Stopped"}, {5, "Suspended"}, {6, "Waiting"},
-                                              {7, "Ready"},   {-1, nullptr}};
-
-const zundo_enum_pair_s kStatusDetailsCodes[] = {{1, "Good"},
-                                                 {2, "JobCanceledByOperator"},
-                                                 {3, "JobCanceledByUser"},
-                                                 {4, "JobAbortedBySystem"},
-                                                 {5, "JobCompletedSuccessfully"},
-                                                 {6, "JobCompletedWithErrors"},
-                                                 {7, "JobCompletedWithWarnings"},
-                                                 {8, "JobHeldOnCreate"},
-                                                 {9, "JobHeld"},
-                                                 {10, "JobIncoming"},
-                                                 {11, "JobSuspended"},
-                                                 {12, "Pause"},
-                                                 {13, "PendingPrinting"},
-                                                 {14, "PendingProcessing"},
-                                                 {15, "Processing"},
-                                                 {-1, nullptr}};
 
 // Attributes copied as text or converted through a code table. Their
 // statuses do not decide the read.
@@ -44,8 +22,8 @@ const NodeAttributeRow kNodeAttributeRows[] = {
     {"DescriptiveName", "job-jdf-node-name", false, nullptr},
     {"ID", "jt-jdf-node-id", true, nullptr},
     {"JobPartID", "job-internal-id", false, nullptr},
-    {"Status", "job-jdf-node-status", false, kNodeStatusCodes},
-    {"StatusDetails", "job-jdf-node-status-details", false, kStatusDetailsCodes},
+    {"Status", "job-jdf-node-status", false, jdfNodeStatusValues},
+    {"StatusDetails", "job-jdf-node-status-details", false, jdfNodeStatusDetailsValues},
     {"TemplateVersion", "jt-version", true, nullptr},
 };
 

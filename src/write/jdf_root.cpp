@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "enums/value_tables.h"
 #include "write/jdf_attr.h"
 #include "write/object_values.h"
 #include "write/process_types.h"
@@ -23,35 +24,6 @@ const VendorNamespace kVendorNamespaces[] = {
     {"morvellan", "Morvellan"},
     {nullptr, nullptr},
 };
-
-// "job-jdf-node-status" and "job-jdf-node-status-details" by code; codes
-// outside the tables write nothing.
-const char *const kNodeStatuses[] = {
-    nullptr, "Aborted", "Completed", "InProgress", "Stopped", "Suspended", "Waiting", "Ready",
-};
-const char *const kNodeStatusDetails[] = {
-    nullptr,
-    "Good",
-    "JobCanceledByOperator",
-    "JobCanceledByUser",
-    "JobAbortedBySystem",
-    "JobCompletedSuccessfully",
-    "JobCompletedWithErrors",
-    "JobCompletedWithWarnings",
-    "JobHeldOnCreate",
-    "JobHeld",
-    "JobIncoming",
-    "JobSuspended",
-    "Pause",
-    "PendingPrinting",
-    "PendingProcessing",
-    "Processing",
-};
-
-template <size_t N>
-const char *nameOfCode(const char *const (&names)[N], int code) {
-    return code >= 0 && static_cast<size_t>(code) < N ? names[code] : nullptr;
-}
 
 zundo_status_t declareVendorNamespaces(xercesc::DOMElement *root) {
     static const char kXmlnsPrefix[] = "xmlns:";
@@ -115,10 +87,10 @@ zundo_status_t writeJDFNode(JDFWriteContext *ctx, zundo_int_object_s *jobTicket,
     writeNodeText(ctx, jobTicket, "jt-jdf-node-id", "ID");
     writeNodeText(ctx, job, "job-jdf-node-name", "DescriptiveName");
     int nodeStatus = FetchedAttribute(job, "job-jdf-node-status").firstInt(0);
-    writeJDFAttr(ctx, "Status", nameOfCode(kNodeStatuses, nodeStatus), 0, nullptr, nullptr,
+    writeJDFAttr(ctx, "Status", jdfNameForCode(jdfNodeStatusValues, nodeStatus), 0, nullptr, nullptr,
                  getJDFRoot);
     int details = FetchedAttribute(job, "job-jdf-node-status-details").firstInt(0);
-    writeJDFAttr(ctx, "StatusDetails", nameOfCode(kNodeStatusDetails, details), 0, nullptr, nullptr,
+    writeJDFAttr(ctx, "StatusDetails", jdfNameForCode(jdfNodeStatusDetailsValues, details), 0, nullptr, nullptr,
                  getJDFRoot);
     writeNodeText(ctx, job, "job-internal-id", "JobPartID");
     return ZUNDO_OK;
