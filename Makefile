@@ -6,7 +6,7 @@ JOBS ?= 2
 BUILD := build
 ASAN_BUILD := build-asan
 
-.PHONY: all deps build build-asan demo test clean
+.PHONY: all deps build build-asan demo test clean bench fuzz
 
 all: build
 
@@ -42,3 +42,23 @@ test: build build-asan
 
 clean:
 	rm -rf $(BUILD) $(ASAN_BUILD)
+
+# Speed and robustness instruments, not part of `make test`.
+BENCH_BUILD := build-bench
+FUZZ_BUILD := build-fuzz
+FUZZ_SECONDS ?= 300
+FUZZ_PACKAGES := clang libclang-rt-14-dev lld
+
+# Read and write times against the Xerces-C floor, ending with a table.
+bench: deps
+	cmake -S . -B $(BENCH_BUILD) -DCMAKE_BUILD_TYPE=Release -DZUNDO_BUILD_TESTS=OFF -DZUNDO_BUILD_BENCH=ON
+	cmake --build $(BENCH_BUILD) -j$(JOBS) --target zundo_bench
+	./$(BENCH_BUILD)/bench/zundo_bench $(BENCH_ARGS)
+
+# Each libFuzzer target for FUZZ_SECONDS; findings stay in $(FUZZ_BUILD)/crashes.
+fuzz:
+	$(MAKE) deps PACKAGES="cmake make pkg-config libxerces-c-dev $(FUZZ_PACKAGES)"
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	  -DZUNDO_BUILD_TESTS=OFF -DZUNDO_SANITIZE=ON -DZUNDO_FUZZ=ON
+	cmake --build $(FUZZ_BUILD) -j$(JOBS) --target zundo_fuzz_ticket zundo_fuzz_value_text
+	fuzz/run_fuzzers.sh $(FUZZ_BUILD) $(FUZZ_SECONDS)
