@@ -7,7 +7,6 @@
 
 #include "catalogue/audit_records.h"
 #include "features/feature_object.h"
-#include "job/text_checks.h"
 
 namespace {
 

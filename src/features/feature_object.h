@@ -8,7 +8,7 @@
 #include <initializer_list>
 
 #include "catalogue/type_names.h"
-#include "features/rules.h"
+#include "validation_rules.h"
 #include "zundo_object_type.h"
 
 // One argument a constructor sets, in the constructor's order.

@@ -8,7 +8,7 @@
 
 #include "catalogue/job_records.h"
 #include "catalogue/type_names.h"
-#include "job/text_checks.h"
+#include "validation_rules.h"
 #include "zundo_object_type.h"
 #include "zundo_trace.h"
 
@@ -29,47 +29,20 @@ const char *strippedName(const zundo_abstract_jdp_data_s *block, const char *nam
     return name;
 }
 
-bool isName(const char *name, const char *expected) { return std::strcmp(name, expected) == 0; }
-
 // Rules of the block's own attributes, on the stripped name; messages carry
 // the full name the caller used.
-zundo_status_t validateBlock(const char *field, const char *fullName,
-                             const zundo_int_attribute_s *attribute) {
-    if (!hasNextValue(attribute)) return ZUNDO_OK;
-    if (isName(field, "number-up-distribution") || isName(field, "output-bin-name")) {
-        bool distribution = isName(field, "number-up-distribution");
-        for (int i = 0; i < attribute->count; i++) {
-            const char *text = static_cast<const char *>(valueAt(attribute, i));
-            if (text == nullptr) continue;
-            if (distribution && (isBlankText(text) || containsBlank(text))) {
-                zundo_trace("Attempted to set %s to %s, Spaces are not allowed.\n", fullName, text);
-                return ZUNDO_INVALID_ARGUMENT;
-            }
-            if (!distribution && isBlankText(text)) {
-                zundo_trace("Attempted to set %s to empty string or a string that contains only "
-                            "spaces.\n",
-                            fullName);
-                return ZUNDO_INVALID_ARGUMENT;
-            }
-        }
-        return ZUNDO_OK;
-    }
-    if (isName(field, "number-up-x") || isName(field, "number-up-y")) {
-        int value = *static_cast<const int *>(valueAt(attribute, 0));
-        if (value >= 0) return ZUNDO_OK;
-        zundo_trace("Attempted to set %s to %i. Must be a value greater than 0.\n", fullName,
-                    value);
-        return ZUNDO_INVALID_ARGUMENT;
-    }
-    if (std::strncmp(field, "number-up-scb-", 14) == 0) {
-        double value = *static_cast<const double *>(valueAt(attribute, 0));
-        if (value >= 0 || value == -1) return ZUNDO_OK;
-        zundo_trace("Attempted to set %s to %f. Must be a value greater than or equal to 0.\n",
-                    fullName, value);
-        return ZUNDO_INVALID_ARGUMENT;
-    }
-    return ZUNDO_OK;
-}
+const zundo_rule_s kBlockRules[] = {
+    {{"number-up-distribution"}, ZUNDO_RULE_NON_BLANK, kSpacesText},
+    {{"number-up-distribution"}, ZUNDO_RULE_NO_BLANKS, kSpacesText},
+    {{"output-bin-name"}, ZUNDO_RULE_NON_BLANK},
+    {{"number-up-x", "number-up-y"}, ZUNDO_RULE_AT_LEAST,
+     "Attempted to set %s to %i. Must be a value greater than 0.\n", 0},
+    {{"number-up-scb-lower-left-x", "number-up-scb-lower-left-y", "number-up-scb-upper-right-x",
+      "number-up-scb-upper-right-y"},
+     ZUNDO_RULE_AT_LEAST, "Attempted to set %s to %f. Must be a value greater than or equal to 0.\n",
+     0},
+    {},
+};
 
 zundo_int_attribute_s *blockGet(void *data, const char *name) {
     auto *block = static_cast<zundo_abstract_jdp_data_s *>(data);
@@ -97,8 +70,7 @@ zundo_status_t blockSet(void *data, zundo_int_attribute_s *attribute) {
     zundo_status_t status =
         initializeAttribute(abstractJdpAttributes, abstractJdpAttributeRows, field, attribute);
     if (status != ZUNDO_OK) return status;
-    resetIterator(attribute);
-    status = validateBlock(field, name, attribute);
+    status = applyRules(kBlockRules, field, attribute, name);
     if (status != ZUNDO_OK) return status;
     return genericSet(abstractJdpAttributes, abstractJdpAttributeRows, data, field, attribute);
 }

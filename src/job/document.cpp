@@ -1,58 +1,29 @@
 // A document of a job: its own attributes and the print-parameter block
 // behind it.
-#include <cstring>
-
 #include "catalogue/job_records.h"
 #include "catalogue/type_names.h"
 #include "job/abstract_jdp.h"
 #include "job/job_objects.h"
-#include "job/text_checks.h"
+#include "validation_rules.h"
 #include "zundo_object_type.h"
-#include "zundo_trace.h"
 
 namespace {
 
-const char kHexDigits[] = "0123456789ABCDEFabcdef";
-
 // The checksum messages print the offered text where the value goes.
-zundo_status_t checkDocumentText(const char *name, const char *text) {
-    if (std::strcmp(name, "document-checksum") == 0) {
-        if (std::strlen(text) != 32) {
-            zundo_trace("Attempted to set %s to %s, must be \t\t\t\t\t\t\texactly 32 characters.\n",
-                        "document-checksum", text);
-            return ZUNDO_INVALID_ARGUMENT;
-        }
-        if (std::strspn(text, kHexDigits) != 32) {
-            zundo_trace(
-                "Attempted to set %s to %s, must contain \t\t\t\t\t\t\tonly hex characters.\n",
-                "document-checksum", text);
-            return ZUNDO_INVALID_ARGUMENT;
-        }
-    } else if (std::strcmp(name, "document-format") == 0 && isBlankText(text)) {
-        zundo_trace("Attempted to set %s to empty string or a string that contains only spaces.\n",
-                    name);
-        return ZUNDO_INVALID_ARGUMENT;
-    }
-    return ZUNDO_OK;
-}
-
-zundo_status_t validateDocument(void *, const char *name, zundo_int_attribute_s *attribute) {
-    if (std::strcmp(name, "document-checksum") != 0 && std::strcmp(name, "document-format") != 0)
-        return ZUNDO_OK;
-    if (!hasNextValue(attribute)) return ZUNDO_OK;
-    for (int i = 0; i < attribute->count; i++) {
-        const char *text = static_cast<const char *>(valueAt(attribute, i));
-        if (text == nullptr) continue;
-        zundo_status_t status = checkDocumentText(name, text);
-        if (status != ZUNDO_OK) return status;
-    }
-    return ZUNDO_OK;
-}
+const zundo_rule_s kDocumentRules[] = {
+    {{"document-checksum"}, ZUNDO_RULE_LENGTH,
+     "Attempted to set %s to %s, must be \t\t\t\t\t\t\texactly 32 characters.\n", 32, 32},
+    {{"document-checksum"}, ZUNDO_RULE_ONLY_OF,
+     "Attempted to set %s to %s, must contain \t\t\t\t\t\t\tonly hex characters.\n", 0, 0, false,
+     "0123456789ABCDEFabcdef"},
+    {{"document-format"}, ZUNDO_RULE_NON_BLANK},
+    {},
+};
 
 // Cloned by cloneDocument, which keeps the file name and copies the block.
 const zundo_object_type_s kDocumentType = {
-    ZUNDO_TYPE_DOCUMENT, "destroyDocument", sizeof(zundo_document_data_s), validateDocument,
-    nullptr, nullptr, compareFollowingAbstractJDPs,
+    ZUNDO_TYPE_DOCUMENT, "destroyDocument", sizeof(zundo_document_data_s),
+    checkRules<kDocumentRules>, nullptr, nullptr, compareFollowingAbstractJDPs,
 };
 
 int compareDocuments(const zundo_int_object_s *a, const zundo_int_object_s *b) {

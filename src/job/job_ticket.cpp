@@ -6,56 +6,30 @@
 #include "catalogue/job_records.h"
 #include "catalogue/type_names.h"
 #include "job/job_objects.h"
-#include "job/text_checks.h"
+#include "validation_rules.h"
 #include "zundo_object_type.h"
 #include "zundo_trace.h"
 
 namespace {
 
-bool isAsciiLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+const char kNodeIdText[] =
+    "%s must be a string that contains no space or colon (':') characters and "
+    "\t\t\t\t\t\t\tstarts with a letter, or underscore ('_').\n";
 
-bool isValidNodeId(const char *text) {
-    return (text[0] == '_' || isAsciiLetter(text[0])) && !containsBlank(text) &&
-           std::strchr(text, ':') == nullptr;
-}
-
-zundo_status_t checkNodeId(const char *name, zundo_int_attribute_s *attribute) {
-    if (!hasNextValue(attribute)) {
-        zundo_trace("%s cannot be NULL\n", name);
-        return ZUNDO_INVALID_ARGUMENT;
-    }
-    for (int i = 0; i < attribute->count; i++) {
-        const char *text = static_cast<const char *>(valueAt(attribute, i));
-        if (text == nullptr) {
-            zundo_trace("%s cannot be NULL\n", name);
-            return ZUNDO_INVALID_ARGUMENT;
-        }
-        if (!isValidNodeId(text)) {
-            zundo_trace("%s must be a string that contains no space or colon (':') characters and "
-                        "\t\t\t\t\t\t\tstarts with a letter, or underscore ('_').\n",
-                        name);
-            return ZUNDO_INVALID_ARGUMENT;
-        }
-    }
-    return ZUNDO_OK;
-}
+const zundo_rule_s kTicketRules[] = {
+    {{"jt-jdf-node-id"}, ZUNDO_RULE_NO_NULLS, "%s cannot be NULL\n"},
+    {{"jt-jdf-node-id"}, ZUNDO_RULE_FIRST_OF, kNodeIdText, 0, 0, false,
+     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_"},
+    {{"jt-jdf-node-id"}, ZUNDO_RULE_NONE_OF, kNodeIdText, 0, 0, false, " :"},
+    {{"jt-type"}, ZUNDO_RULE_NON_BLANK},
+    {},
+};
 
 zundo_status_t validateTicket(void *, const char *name, zundo_int_attribute_s *attribute) {
     // Written by the constructor only.
     if (std::strcmp(name, "jt-syntax-version") == 0 || std::strcmp(name, "jt-api-version") == 0)
         return ZUNDO_NOT_FOUND;
-    if (std::strcmp(name, "jt-jdf-node-id") == 0) return checkNodeId(name, attribute);
-    if (std::strcmp(name, "jt-type") != 0 || !hasNextValue(attribute)) return ZUNDO_OK;
-    for (int i = 0; i < attribute->count; i++) {
-        const char *text = static_cast<const char *>(valueAt(attribute, i));
-        if (text != nullptr && isBlankText(text)) {
-            zundo_trace("Attempted to set %s to empty string or a string that contains only "
-                        "spaces.\n",
-                        name);
-            return ZUNDO_INVALID_ARGUMENT;
-        }
-    }
-    return ZUNDO_OK;
+    return applyRules(kTicketRules, name, attribute);
 }
 
 // Destroyed by destroyTicket and cloned by cloneTicket, which need the job.

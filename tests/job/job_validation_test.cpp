@@ -187,3 +187,12 @@ TEST_F(JobValidation, TicketNodeIdAndFixedVersions) {
     EXPECT_EQ(setStringAttribute(ticket, "jt-syntax-version", "2.0"), ZUNDO_NOT_FOUND);
     EXPECT_EQ(setStringAttribute(ticket, "jt-api-version", "2.0"), ZUNDO_NOT_FOUND);
 }
+
+TEST_F(JobValidation, NodeIdListWithANullValueIsRefused) {
+    zundo_int_attribute_s *ids = nullptr;
+    ASSERT_EQ(newAttribute(&ids, "jt-jdf-node-id", ZUNDO_KIND_STRING, "n1"), ZUNDO_OK);
+    ASSERT_EQ(addValue(ids, nullptr), ZUNDO_OK);
+    EXPECT_EQ(set(ticket, ids), ZUNDO_INVALID_ARGUMENT);
+    EXPECT_EQ(messages.back(), "jt-jdf-node-id cannot be NULL\n");
+    destroyAttribute(ids);
+}

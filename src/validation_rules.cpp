@@ -1,9 +1,9 @@
-#include "features/rules.h"
+#include "validation_rules.h"
 
+#include <cctype>
 #include <climits>
 #include <cstring>
 
-#include "job/text_checks.h"
 #include "zundo_trace.h"
 
 const char kTrueFalseText[] = "Attempted to set %s to %i, must be true, false, or not_set.\n";
@@ -41,11 +41,17 @@ const char *messageOf(const zundo_rule_s &rule) {
     return rule.check == ZUNDO_RULE_REQUIRED ? kRequiredText : kBlankText;
 }
 
-bool textRefused(zundo_rule_check_t check, const char *text) {
-    switch (check) {
-    case ZUNDO_RULE_NOT_EMPTY: return text[0] == '\0';
+bool textRefused(const zundo_rule_s &rule, const char *text) {
+    size_t length = std::strlen(text);
+    switch (rule.check) {
+    case ZUNDO_RULE_NOT_EMPTY: return length == 0;
     case ZUNDO_RULE_NON_BLANK: return isBlankText(text);
     case ZUNDO_RULE_NO_BLANKS: return containsBlank(text);
+    case ZUNDO_RULE_LENGTH: return length < rule.low || length > rule.high;
+    case ZUNDO_RULE_FIRST_OF:
+        return length == 0 || std::strchr(rule.characters, text[0]) == nullptr;
+    case ZUNDO_RULE_ONLY_OF: return std::strspn(text, rule.characters) != length;
+    case ZUNDO_RULE_NONE_OF: return std::strpbrk(text, rule.characters) != nullptr;
     default: return false;
     }
 }
@@ -53,9 +59,10 @@ bool textRefused(zundo_rule_check_t check, const char *text) {
 bool numberRefused(const zundo_rule_s &rule, double value) {
     switch (rule.check) {
     case ZUNDO_RULE_BOOLEAN: return value != 1 && value != 0 && value != -1;
-    case ZUNDO_RULE_AT_LEAST: return value < rule.low;
-    case ZUNDO_RULE_ABOVE: return value <= rule.low;
-    case ZUNDO_RULE_BETWEEN: return value < rule.low || value > rule.high;
+    // Written so that a NaN, in no range, is refused.
+    case ZUNDO_RULE_AT_LEAST: return !(value >= rule.low);
+    case ZUNDO_RULE_ABOVE: return !(value > rule.low);
+    case ZUNDO_RULE_BETWEEN: return !(value >= rule.low && value <= rule.high);
     default: return false;
     }
 }
@@ -81,10 +88,11 @@ char valueDirective(const char *message) {
     return '\0';
 }
 
+// A NaN shows as INT_MIN, as the processor's own conversion has it.
 int clampedInt(double number) {
     if (number >= INT_MAX) return INT_MAX;
-    if (number <= INT_MIN) return INT_MIN;
-    return static_cast<int>(number);
+    if (number > INT_MIN) return static_cast<int>(number);
+    return INT_MIN;
 }
 
 // Traces a refusal: the message receives the name and, when it asks for
@@ -102,10 +110,19 @@ void traceRefusal(const char *message, const char *name, double number, const ch
     }
 }
 
+// REQUIRED asks for a first value; NO_NULLS for values none of which is null.
+bool lacksValue(const zundo_rule_s &rule, const zundo_int_attribute_s *attribute) {
+    if (!hasValue(attribute)) return true;
+    if (rule.check == ZUNDO_RULE_REQUIRED || !isPointerKind(attribute->kind)) return false;
+    for (int i = 1; i < attribute->count; i++)
+        if (valueAt(attribute, i) == nullptr) return true;
+    return false;
+}
+
 zundo_status_t applyRule(const zundo_rule_s &rule, const char *name,
                          const zundo_int_attribute_s *attribute) {
-    if (rule.check == ZUNDO_RULE_REQUIRED) {
-        if (hasValue(attribute)) return ZUNDO_OK;
+    if (rule.check == ZUNDO_RULE_REQUIRED || rule.check == ZUNDO_RULE_NO_NULLS) {
+        if (!lacksValue(rule, attribute)) return ZUNDO_OK;
         traceRefusal(messageOf(rule), name, 0, nullptr);
         return ZUNDO_INVALID_ARGUMENT;
     }
@@ -119,7 +136,7 @@ zundo_status_t applyRule(const zundo_rule_s &rule, const char *name,
     if (!kindIs(attribute->kind, ZUNDO_KIND_STRING)) return ZUNDO_OK;
     for (int i = 0; i < attribute->count; i++) {
         const char *text = static_cast<const char *>(valueAt(attribute, i));
-        if (text == nullptr || !textRefused(rule.check, text)) continue;
+        if (text == nullptr || !textRefused(rule, text)) continue;
         traceRefusal(messageOf(rule), name, 0, text);
         return ZUNDO_INVALID_ARGUMENT;
     }
@@ -127,6 +144,14 @@ zundo_status_t applyRule(const zundo_rule_s &rule, const char *name,
 }
 
 }  // namespace
+
+bool isBlankText(const char *text) {
+    for (const char *c = text; *c != '\0'; c++)
+        if (!std::isspace(static_cast<unsigned char>(*c))) return false;
+    return true;
+}
+
+bool containsBlank(const char *text) { return std::strchr(text, ' ') != nullptr; }
 
 bool hasValue(const zundo_int_attribute_s *attribute) {
     if (attribute == nullptr || attribute->count == 0) return false;
@@ -136,11 +161,12 @@ bool hasValue(const zundo_int_attribute_s *attribute) {
 }
 
 zundo_status_t applyRules(const zundo_rule_s *rules, const char *name,
-                          zundo_int_attribute_s *attribute) {
+                          zundo_int_attribute_s *attribute, const char *shownName) {
     resetIterator(attribute);
     for (const zundo_rule_s *rule = rules; rule->names[0] != nullptr; rule++) {
         if (!guards(*rule, name)) continue;
-        zundo_status_t status = applyRule(*rule, name, attribute);
+        zundo_status_t status =
+            applyRule(*rule, shownName != nullptr ? shownName : name, attribute);
         if (status != ZUNDO_OK) return status;
     }
     return ZUNDO_OK;
