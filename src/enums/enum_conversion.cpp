@@ -9,14 +9,20 @@ namespace {
 
 const char *const booleanAttribute = "boolean-to-string";
 
-const zundo_enum_pair_s *pairOfName(const zundo_enum_pair_s *pairs, const char *name) {
+}  // namespace
+
+const char *jdfNameForCode(const zundo_enum_pair_s *pairs, int code) {
+    for (; pairs->jdf != nullptr; ++pairs)
+        if (pairs->code == code) return pairs->jdf;
+    return nullptr;
+}
+
+const zundo_enum_pair_s *pairForJdfName(const zundo_enum_pair_s *pairs, const char *name) {
     if (name == nullptr) return nullptr;
     for (; pairs->jdf != nullptr; ++pairs)
         if (std::strcmp(pairs->jdf, name) == 0) return pairs;
     return nullptr;
 }
-
-}  // namespace
 
 extern "C" {
 
@@ -40,7 +46,7 @@ const char *getJDFValueFromChar(const char *attribute, const char *text) {
 int getZUNDOEnumValue(const char *attribute, const char *jdfName) {
     const zundo_conversion_row_s *row = findConversionRow(attribute);
     if (row == nullptr || row->jdfToInt == nullptr) return -1;
-    const zundo_enum_pair_s *pair = pairOfName(row->jdfToInt, jdfName);
+    const zundo_enum_pair_s *pair = pairForJdfName(row->jdfToInt, jdfName);
     if (pair != nullptr) return pair->code;
     return std::strcmp(attribute, booleanAttribute) == 0 ? -1 : 0;
 }
@@ -60,7 +66,7 @@ const char *convertZUNDOReferenceEdgeToJDFOrientation(int code) {
 }
 
 int convertJDFOrientationToZUNDOReferenceEdge(const char *orientation) {
-    const zundo_enum_pair_s *pair = pairOfName(referenceEdgeValues, orientation);
+    const zundo_enum_pair_s *pair = pairForJdfName(referenceEdgeValues, orientation);
     return pair != nullptr ? pair->code : 0;
 }
 

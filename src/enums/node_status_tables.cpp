@@ -26,9 +26,3 @@ const zundo_enum_pair_s jdfNodeStatusDetailsValues[] = {
     {15, "Processing"},
     {-1, nullptr},
 };
-
-const char *jdfNameForCode(const zundo_enum_pair_s *pairs, int code) {
-    for (; pairs->jdf != nullptr; ++pairs)
-        if (pairs->code == code) return pairs->jdf;
-    return nullptr;
-}

@@ -11,6 +11,8 @@ extern const zundo_enum_pair_s jdfNodeStatusDetailsValues[];
 
 // The JDF name of the first pair with `code`, or null.
 const char *jdfNameForCode(const zundo_enum_pair_s *pairs, int code);
+// The first pair whose JDF name is `name`, or null (also for a null name).
+const zundo_enum_pair_s *pairForJdfName(const zundo_enum_pair_s *pairs, const char *name);
 
 extern const zundo_enum_pair_s bindingTypeValues[];
 extern const zundo_enum_pair_s interfaceBoxFunctionValues[];

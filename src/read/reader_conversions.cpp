@@ -6,6 +6,7 @@
 #include <cstring>
 #include <new>
 
+#include "enums/value_tables.h"
 #include "zundo_object.h"
 #include "zundo_trace.h"
 
@@ -41,10 +42,8 @@ std::vector<std::string> leadingTokens(const char *text, size_t count) {
 int convertBoolean(const char *text) { return getZUNDOEnumValue("boolean-to-string", text); }
 
 int codeForJDFName(const zundo_enum_pair_s *table, const char *text) {
-    if (table == nullptr || text == nullptr) return 0;
-    for (const zundo_enum_pair_s *pair = table; pair->jdf != nullptr; ++pair)
-        if (std::strcmp(pair->jdf, text) == 0) return pair->code;
-    return 0;
+    const zundo_enum_pair_s *pair = table != nullptr ? pairForJdfName(table, text) : nullptr;
+    return pair != nullptr ? pair->code : 0;
 }
 
 bool convertRealPair(const char *text, double *x, double *y) {
