@@ -4,9 +4,22 @@
 #include <cstring>
 #include <vector>
 
+#include "catalogue/type_names.h"
 #include "catalogue/type_tables.h"
 #include "zundo_object.h"
 #include "zundo_trace.h"
+
+namespace {
+
+// The table of a type whose attributes are listed: every object type but the
+// print-parameter block, which is listed only through its owner.
+const zundo_type_table_s *listedTypeTable(const zundo_int_object_s *object) {
+    const zundo_type_table_s *type = object != nullptr ? findTypeTable(object->type) : nullptr;
+    if (type == nullptr || std::strcmp(type->type, ZUNDO_TYPE_ABSTRACT_JDP) == 0) return nullptr;
+    return type;
+}
+
+}  // namespace
 
 zundo_status_t newObject(zundo_int_object_s **out, const char *type, void *data) {
     if (out == nullptr) return ZUNDO_ERROR;
@@ -96,14 +109,12 @@ int compareObjects(const zundo_int_object_s *a, const zundo_int_object_s *b) {
 }
 
 char **getAttributeNames(const zundo_int_object_s *object) {
-    if (object == nullptr) return nullptr;
-    const zundo_type_table_s *type = findTypeTable(object->type);
-    // The print-parameter block is listed only through its owner.
-    if (type == nullptr || std::strcmp(type->type, "ZUNDO_ABSTRACT_JDP") == 0) return nullptr;
+    const zundo_type_table_s *type = listedTypeTable(object);
+    if (type == nullptr) return nullptr;
     char **names = nullptr;
     zundo_status_t status;
     if (type->blockPrefix != nullptr) {
-        const zundo_type_table_s *block = findTypeTable("ZUNDO_ABSTRACT_JDP");
+        const zundo_type_table_s *block = findTypeTable(ZUNDO_TYPE_ABSTRACT_JDP);
         status = getPrefixedAttributes(type->table, type->rows, &names, block->table, block->rows,
                                        type->blockPrefix);
     } else {
@@ -120,7 +131,7 @@ void freeAttributeNames(char **names) {
 
 zundo_status_t getSetAttributes(zundo_int_object_s *object, zundo_int_attribute_s ***out) {
     if (object == nullptr || out == nullptr) return ZUNDO_INVALID_ARGUMENT;
-    if (findTypeTable(object->type) == nullptr) return ZUNDO_NOT_FOUND;
+    if (listedTypeTable(object) == nullptr) return ZUNDO_NOT_FOUND;
     char **names = getAttributeNames(object);
     if (names == nullptr) return ZUNDO_OUT_OF_MEMORY;
     std::vector<zundo_int_attribute_s *> setOnes;

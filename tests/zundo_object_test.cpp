@@ -275,6 +275,9 @@ TEST(AttributeListing, PrefixedOwnersListOwnNamesThenBlockNames) {
 
     shell.type = "ZUNDO_ABSTRACT_JDP";
     EXPECT_EQ(nullptr, getAttributeNames(&shell));
+    zundo_int_attribute_s **list = nullptr;
+    EXPECT_EQ(ZUNDO_NOT_FOUND, getSetAttributes(&shell, &list));
+    EXPECT_EQ(nullptr, list);
     shell.type = kSampleType;
     EXPECT_EQ(nullptr, getAttributeNames(&shell));
     freeAttributeNames(nullptr);

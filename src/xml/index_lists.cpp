@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "catalogue/type_names.h"
 #include "xml/jdf_lists.h"
 #include "zundo_trace.h"
 
@@ -137,7 +138,7 @@ zundo_status_t getRunIndexList(const DOMElement *resource, const zundo_int_objec
         return ZUNDO_INVALID_ARGUMENT;
     clearOutputs(out, attrs, elements);
     const char *type = getObjectType(owner);
-    if (type != nullptr && std::strcmp(type, "ZUNDO_JOB") == 0) {
+    if (type != nullptr && std::strcmp(type, ZUNDO_TYPE_JOB) == 0) {
         getRunIndexLvlAttrs(resource, attrs);
         getRunIndexLvlElements(resource, elements);
     } else {
