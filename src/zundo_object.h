@@ -76,6 +76,15 @@ zundo_status_t getPrefixedAttributes(const zundo_attribute_info_s *table, int ro
                                      const zundo_attribute_info_s *sharedTable, int sharedRows,
                                      const char *prefix);
 
+// Sets one value of `kind` (none when null), or a null-terminated list of
+// them (none when null), through the object's set hooks, without the API
+// trace of the typed setters. Objects and value objects pass to the object
+// only when this succeeds.
+zundo_status_t setSingleValue(zundo_int_object_s *object, const char *name, const char *kind,
+                              const void *value);
+zundo_status_t setValueList(zundo_int_object_s *object, const char *name, const char *kind,
+                            const void *const *values);
+
 // Values held by pointer-kind fields and attributes, handled by kind.
 void destroyValueByKind(const char *kind, void *value);
 zundo_status_t cloneValueByKind(const char *kind, const void *value, void **out);

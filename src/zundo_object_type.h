@@ -14,7 +14,7 @@
 
 struct zundo_object_type_s {
     const char *type;          // the type string, e.g. "ZUNDO_STITCHING"
-    const char *destroyName;   // named in "passed invalid object to %s\n"
+    const char *wrongObjectMessage;  // traced when destroy gets another type
     size_t recordSize;         // sizeof the type's data record
     // Rules beyond the value kind, run only after initializeAttribute has
     // accepted the attribute; null when the type has none. The iterator is
@@ -27,6 +27,9 @@ struct zundo_object_type_s {
     void (*releaseExtra)(void *data);
     // Compares members that are not table fields (0 equal); may be null.
     int (*compareExtra)(const zundo_int_object_s *a, const zundo_int_object_s *b);
+    // Copies what the table does not hold (the print-parameter block behind
+    // an owner, a job's documents) after the fields; may be null.
+    zundo_status_t (*cloneExtra)(zundo_int_object_s *copy, const zundo_int_object_s *source);
 };
 
 template <const zundo_object_type_s &T>
@@ -59,7 +62,7 @@ zundo_status_t typeSet(void *data, zundo_int_attribute_s *attribute) {
 template <const zundo_object_type_s &T>
 void typeDestroy(zundo_int_object_s *object) {
     if (object == nullptr || object->type == nullptr || std::strcmp(object->type, T.type) != 0) {
-        zundo_trace("passed invalid object to %s\n", T.destroyName);
+        zundo_trace("%s", T.wrongObjectMessage);
         return;
     }
     if (T.releaseExtra != nullptr) T.releaseExtra(object->data);
@@ -77,6 +80,7 @@ zundo_status_t typeClone(zundo_int_object_s **out, const zundo_int_object_s *sou
     zundo_status_t status = T.newNeutral(&copy);
     if (status != ZUNDO_OK) return status;
     status = genericClone(typeTable<T>()->table, source, copy);
+    if (status == ZUNDO_OK && T.cloneExtra != nullptr) status = T.cloneExtra(copy, source);
     if (status != ZUNDO_OK) {
         destroy(copy);
         return status;

@@ -49,8 +49,8 @@ zundo_status_t validateNotification(void *, const char *name, zundo_int_attribut
 
 }  // namespace
 
-ZUNDO_FEATURE_TYPE(Notification, notification, NOTIFICATION, validateNotification,
-                   newBlankFeature, typeClone, nullptr, compareNotificationAttrValue)
+ZUNDO_FEATURE_TYPE(Notification, notification, NOTIFICATION, validateNotification, nullptr,
+                   nullptr, compareNotificationAttrValue)
 
 // A delivery type needs addressees, and addressees need a delivery type.
 extern "C" zundo_status_t newNotification(zundo_int_object_s **out, const char *const *sendTo,

@@ -41,8 +41,8 @@ extern "C" zundo_status_t newScreeningEmpty(zundo_int_object_s **out) {
 }
 
 ZUNDO_TEXT_FEATURE(ColorPlane, color_plane, COLOR_PLANE, colourRules, "color-plane-name")
-ZUNDO_FEATURE_TYPE(RipParams, rip_params, RIP_PARAMS, nullptr, newBlankFeature, typeClone,
-                   nullptr, compareRipParamsAttrValue)
+ZUNDO_FEATURE_TYPE(RipParams, rip_params, RIP_PARAMS, nullptr, nullptr, nullptr,
+                   compareRipParamsAttrValue)
 
 extern "C" zundo_status_t newRipParams(zundo_int_object_s **out, int blackDetection,
                                        int brightness, int combinedSeparations, int createMaster,

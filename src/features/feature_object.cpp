@@ -19,14 +19,8 @@ zundo_status_t setInitialValue(zundo_int_object_s *object, const zundo_initial_v
         return setIntegerAttribute(object, value.name, value.integer);
     if (kindIs(value.kind, ZUNDO_KIND_DOUBLE))
         return setDoubleAttribute(object, value.name, value.real);
-    zundo_int_attribute_s *attribute = nullptr;
-    zundo_status_t status = newAttribute(&attribute, value.name, value.kind, value.single);
-    for (const void *const *item = value.list;
-         status == ZUNDO_OK && item != nullptr && *item != nullptr; item++)
-        status = addValue(attribute, *item);
-    if (status == ZUNDO_OK) status = set(object, attribute);
-    destroyAttribute(attribute);
-    return status;
+    if (value.list != nullptr) return setValueList(object, value.name, value.kind, value.list);
+    return setSingleValue(object, value.name, value.kind, value.single);
 }
 
 void releaseOwnedValue(const zundo_initial_value_s &value) {

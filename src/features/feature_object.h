@@ -72,17 +72,18 @@ zundo_status_t newBlankFeature(zundo_int_object_s **out) {
 }
 
 // A feature type in one place: the description <Name>Type (type string
-// ZUNDO_TYPE_<TYPE>, record zundo_<stem>_data_s, destroy name
-// "destroy<Name>") and the exported clone<Name> and `compareName`. `blank`
-// and `cloner` are templates over the description: the object clone fills
-// and the clone operation; `compareExtra` compares what follows the record.
-#define ZUNDO_FEATURE_TYPE(Name, stem, TYPE, validator, blank, cloner, compareExtra, compareName) \
+// ZUNDO_TYPE_<TYPE>, record zundo_<stem>_data_s, destroy operation named
+// "destroy<Name>" in its message, cloned from a blank object of the type) and the exported
+// clone<Name> and `compareName`. `cloneExtra` and `compareExtra` copy and
+// compare what follows the record (may be null).
+#define ZUNDO_FEATURE_TYPE(Name, stem, TYPE, validator, cloneExtra, compareExtra, compareName)   \
     const zundo_object_type_s Name##Type = {                                                  \
-        ZUNDO_TYPE_##TYPE, "destroy" #Name, sizeof(zundo_##stem##_data_s), validator,          \
-        blank<Name##Type>, nullptr, compareExtra};                                             \
+        ZUNDO_TYPE_##TYPE, "passed invalid object to destroy" #Name "\n",                      \
+        sizeof(zundo_##stem##_data_s), validator, newBlankFeature<Name##Type>, nullptr,         \
+        compareExtra, cloneExtra};                                                             \
     extern "C" zundo_status_t clone##Name(zundo_int_object_s **out,                            \
                                           const zundo_int_object_s *source) {                  \
-        return cloner<Name##Type>(out, source);                                                \
+        return typeClone<Name##Type>(out, source);                                             \
     }                                                                                          \
     extern "C" int compareName(const zundo_int_object_s *a, const zundo_int_object_s *b) {      \
         return typeCompare<Name##Type>(a, b);                                                  \
@@ -90,8 +91,7 @@ zundo_status_t newBlankFeature(zundo_int_object_s **out) {
 
 // The usual feature type: compared by its record alone, with compare<Name>.
 #define ZUNDO_FEATURE(Name, stem, TYPE, validator)                                             \
-    ZUNDO_FEATURE_TYPE(Name, stem, TYPE, validator, newBlankFeature, typeClone, nullptr,       \
-                       compare##Name)
+    ZUNDO_FEATURE_TYPE(Name, stem, TYPE, validator, nullptr, nullptr, compare##Name)
 
 // Usual feature types whose validator is the rule table `rules` and whose
 // constructor new<Name> sets nothing, one integer code or one text.

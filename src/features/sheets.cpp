@@ -68,8 +68,8 @@ extern "C" zundo_status_t newSeparatorSheet(zundo_int_object_s **out, int type,
          ownedValue("separator-sheet-media", ZUNDO_KIND_OBJECT, media)});
 }
 
-ZUNDO_FEATURE_TYPE(Container, container, CONTAINER, checkRules<sheetRules>, newBlankFeature,
-                   typeClone, nullptr, compareContainerAttrValue)
+ZUNDO_FEATURE_TYPE(Container, container, CONTAINER, checkRules<sheetRules>, nullptr, nullptr,
+                   compareContainerAttrValue)
 
 extern "C" zundo_status_t newContainer(zundo_int_object_s **out, const char *format,
                                        const char *fileName) {

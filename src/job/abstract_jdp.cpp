@@ -17,8 +17,8 @@ namespace {
 // Validated by blockSet, which needs the full name; no clone hook, since
 // owners copy their block explicitly.
 const zundo_object_type_s kBlockType = {
-    ZUNDO_TYPE_ABSTRACT_JDP, "destroyAbstractJDP", sizeof(zundo_abstract_jdp_data_s),
-    nullptr, nullptr, nullptr, nullptr,
+    ZUNDO_TYPE_ABSTRACT_JDP, "passed invalid object to destroyAbstractJDP\n",
+    sizeof(zundo_abstract_jdp_data_s), nullptr, nullptr, nullptr, nullptr, nullptr,
 };
 
 // The name the block's table knows: the owner's prefix is skipped when the
@@ -85,7 +85,6 @@ zundo_status_t newAbstractJDP(zundo_int_object_s **out, const char *prefix) {
     static_cast<zundo_abstract_jdp_data_s *>(block->data)->prefix = prefix;
     block->getHook = blockGet;
     block->setHook = blockSet;
-    block->cloneHook = nullptr;
     *out = block;
     return ZUNDO_OK;
 }

@@ -20,37 +20,15 @@ const zundo_rule_s kDocumentRules[] = {
     {},
 };
 
-// Cloned by cloneDocument, which keeps the file name and copies the block.
+zundo_status_t newBlankDocument(zundo_int_object_s **out) { return newDocument(out, nullptr); }
+
+// A clone carries a copy of its source's block, so that it compares equal
+// to its source.
 const zundo_object_type_s kDocumentType = {
-    ZUNDO_TYPE_DOCUMENT, "destroyDocument", sizeof(zundo_document_data_s),
-    checkRules<kDocumentRules>, nullptr, nullptr, compareFollowingAbstractJDPs,
+    ZUNDO_TYPE_DOCUMENT, "passed invalid object to destroyDocument\n",
+    sizeof(zundo_document_data_s), checkRules<kDocumentRules>, newBlankDocument, nullptr,
+    compareFollowingAbstractJDPs, copyFollowingAbstractJDP,
 };
-
-int compareDocuments(const zundo_int_object_s *a, const zundo_int_object_s *b) {
-    if (a == b) return 0;
-    if (!isObjectOfType(a, ZUNDO_TYPE_DOCUMENT) || !isObjectOfType(b, ZUNDO_TYPE_DOCUMENT))
-        return 1;
-    return typeCompare<kDocumentType>(a, b);
-}
-
-// The print-parameter block is copied with the document, as with the job.
-zundo_status_t cloneDocument(zundo_int_object_s **out, const zundo_int_object_s *source) {
-    if (out == nullptr || !isObjectOfType(source, ZUNDO_TYPE_DOCUMENT))
-        return ZUNDO_INVALID_ARGUMENT;
-    const auto *data = static_cast<const zundo_document_data_s *>(source->data);
-    const char *fileName = data->fileName != nullptr ? data->fileName[0] : nullptr;
-    zundo_int_object_s *copy = nullptr;
-    zundo_status_t status = newDocument(&copy, fileName);
-    if (status != ZUNDO_OK) return status;
-    status = genericClone(documentAttributes, source, copy);
-    if (status == ZUNDO_OK) status = copyFollowingAbstractJDP(copy, source);
-    if (status != ZUNDO_OK) {
-        destroy(copy);
-        return status;
-    }
-    *out = copy;
-    return ZUNDO_OK;
-}
 
 }  // namespace
 
@@ -67,8 +45,6 @@ zundo_status_t newDocument(zundo_int_object_s **out, const char *fileName) {
         destroy(block);
         return status;
     }
-    document->cloneHook = cloneDocument;
-    document->compareHook = compareDocuments;
     document->next = block;
     if (fileName != nullptr)
         status = setSingleValue(document, "document-file-name", ZUNDO_KIND_STRING, fileName);

@@ -19,13 +19,27 @@ void destroyDocuments(void *data) {
     job->documents = nullptr;
 }
 
-// Cloned by cloneJob, which also copies the documents and the block.
-const zundo_object_type_s kJobType = {
-    ZUNDO_TYPE_JOB, "destroyJob", sizeof(zundo_job_data_s), validateJobAttribute, nullptr,
-    destroyDocuments, compareFollowingAbstractJDPs,
-};
+zundo_status_t newBlankJob(zundo_int_object_s **out) { return newJobNoDocument(out); }
 
-zundo_status_t cloneJob(zundo_int_object_s **out, const zundo_int_object_s *source);
+// A clone holds clones of the documents and a copy of the print-parameter
+// block, so that it compares equal to its source.
+zundo_status_t cloneDocumentsAndBlock(zundo_int_object_s *copy, const zundo_int_object_s *source) {
+    const auto *data = static_cast<const zundo_job_data_s *>(source->data);
+    zundo_status_t status = ZUNDO_OK;
+    for (zundo_int_object_s **document = data->documents;
+         status == ZUNDO_OK && document != nullptr && *document != nullptr; document++) {
+        zundo_int_object_s *documentCopy = cloneObj(*document);
+        status = documentCopy != nullptr ? addDocument(copy, documentCopy) : ZUNDO_ERROR;
+        if (status != ZUNDO_OK && documentCopy != nullptr) destroy(documentCopy);
+    }
+    return status == ZUNDO_OK ? copyFollowingAbstractJDP(copy, source) : status;
+}
+
+const zundo_object_type_s kJobType = {
+    ZUNDO_TYPE_JOB, "passed invalid object to destroyJob\n", sizeof(zundo_job_data_s),
+    validateJobAttribute, newBlankJob, destroyDocuments, compareFollowingAbstractJDPs,
+    cloneDocumentsAndBlock,
+};
 
 // Builds a job holding `document` (may be null). The document stays the
 // caller's when this fails.
@@ -51,8 +65,6 @@ zundo_status_t buildJob(zundo_int_object_s **out, zundo_int_object_s *document,
     auto *data = static_cast<zundo_job_data_s *>(job->data);
     data->copies = 1;
     data->documents = documents;
-    job->cloneHook = cloneJob;
-    job->compareHook = compareJobs;
     job->next = block;
     documents[0] = document;
     status = setWholeDocumentRange(job, "job-include-pages");
@@ -62,30 +74,6 @@ zundo_status_t buildJob(zundo_int_object_s **out, zundo_int_object_s *document,
         return status;
     }
     *out = job;
-    return ZUNDO_OK;
-}
-
-// Documents are cloned one by one and the print-parameter block is copied
-// too, so that a clone compares equal to its source.
-zundo_status_t cloneJob(zundo_int_object_s **out, const zundo_int_object_s *source) {
-    if (out == nullptr || !isObjectOfType(source, ZUNDO_TYPE_JOB)) return ZUNDO_INVALID_ARGUMENT;
-    zundo_int_object_s *copy = nullptr;
-    zundo_status_t status = newJobNoDocument(&copy);
-    if (status != ZUNDO_OK) return status;
-    const auto *data = static_cast<const zundo_job_data_s *>(source->data);
-    for (zundo_int_object_s **document = data->documents;
-         status == ZUNDO_OK && document != nullptr && *document != nullptr; document++) {
-        zundo_int_object_s *documentCopy = cloneObj(*document);
-        status = documentCopy != nullptr ? addDocument(copy, documentCopy) : ZUNDO_ERROR;
-        if (status != ZUNDO_OK) destroy(documentCopy);
-    }
-    if (status == ZUNDO_OK) status = genericClone(jobAttributes, source, copy);
-    if (status == ZUNDO_OK) status = copyFollowingAbstractJDP(copy, source);
-    if (status != ZUNDO_OK) {
-        destroy(copy);
-        return status;
-    }
-    *out = copy;
     return ZUNDO_OK;
 }
 
@@ -140,8 +128,6 @@ zundo_int_object_s **getDocuments(zundo_int_object_s *job) {
 }
 
 int compareJobs(const zundo_int_object_s *a, const zundo_int_object_s *b) {
-    if (a == b) return 0;
-    if (!isObjectOfType(a, ZUNDO_TYPE_JOB) || !isObjectOfType(b, ZUNDO_TYPE_JOB)) return 1;
     return typeCompare<kJobType>(a, b);
 }
 

@@ -11,16 +11,6 @@ bool isObjectOfType(const zundo_int_object_s *object, const char *type) {
     return object != nullptr && kindIs(object->type, type);
 }
 
-zundo_status_t setSingleValue(zundo_int_object_s *owner, const char *name, const char *kind,
-                              const void *value) {
-    zundo_int_attribute_s *attribute = nullptr;
-    zundo_status_t status = newAttribute(&attribute, name, kind, value);
-    if (status != ZUNDO_OK) return status;
-    status = set(owner, attribute);
-    destroyAttribute(attribute);
-    return status;
-}
-
 zundo_status_t setWholeDocumentRange(zundo_int_object_s *owner, const char *name) {
     zundo_range_s *range = nullptr;
     zundo_status_t status = newRange(&range, 0, -1);

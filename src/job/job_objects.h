@@ -15,11 +15,6 @@ zundo_int_object_s *findOwnerRecord(zundo_int_object_s *object, const char *type
 // True when `object` heads an object of `type`.
 bool isObjectOfType(const zundo_int_object_s *object, const char *type);
 
-// Stores one value through the owner's set hook; the attribute is freed
-// again. Pointer-kind values pass to the owner only when this succeeds.
-zundo_status_t setSingleValue(zundo_int_object_s *owner, const char *name, const char *kind,
-                              const void *value);
-
 // Sets `name` to one Range 0 ~ -1, the whole document.
 zundo_status_t setWholeDocumentRange(zundo_int_object_s *owner, const char *name);
 

@@ -32,27 +32,6 @@ zundo_status_t validateTicket(void *, const char *name, zundo_int_attribute_s *a
     return applyRules(kTicketRules, name, attribute);
 }
 
-// Destroyed by destroyTicket and cloned by cloneTicket, which need the job.
-const zundo_object_type_s kTicketType = {
-    ZUNDO_TYPE_JOB_TICKET, "destroyJobTicketInfo", sizeof(zundo_job_ticket_data_s),
-    validateTicket, nullptr, nullptr, nullptr,
-};
-
-// The job goes first, then the fields; a pending binding media that no
-// binding took dies with the ticket.
-void destroyTicket(zundo_int_object_s *object) {
-    if (!isObjectOfType(object, ZUNDO_TYPE_JOB_TICKET)) {
-        zundo_trace("invalid object passed to destroyJobTicketInfo\n");
-        return;
-    }
-    auto *data = static_cast<zundo_job_ticket_data_s *>(object->data);
-    if (data->job != nullptr) destroy(data->job);
-    if (data->readEnv.pendingBindingMedia != nullptr) destroy(data->readEnv.pendingBindingMedia);
-    genericDestroy(jobTicketAttributes, data);
-    std::free(data);
-    object->data = nullptr;
-}
-
 // Bypasses the validator, which refuses these names.
 zundo_status_t storeDirectly(void *data, const char *name, const char *text) {
     zundo_int_attribute_s *attribute = nullptr;
@@ -63,28 +42,41 @@ zundo_status_t storeDirectly(void *data, const char *name, const char *text) {
     return status;
 }
 
+// The job goes with the ticket, and so does a pending binding media that no
+// binding took.
+void releaseJobAndPendingMedia(void *record) {
+    auto *data = static_cast<zundo_job_ticket_data_s *>(record);
+    if (data->job != nullptr) destroy(data->job);
+    if (data->readEnv.pendingBindingMedia != nullptr) destroy(data->readEnv.pendingBindingMedia);
+}
+
+// A ticket made around a new empty job, for clone to fill.
+zundo_status_t newBlankTicket(zundo_int_object_s **out) {
+    zundo_int_object_s *job = nullptr;
+    zundo_status_t status = newJobNoDocument(&job);
+    if (status != ZUNDO_OK) return status;
+    status = newJobTicketInfoFromJob(out, job);
+    if (status != ZUNDO_OK) destroy(job);
+    return status;
+}
+
 // Two tickets must not share a job (each destroys its own), so the clone
-// gets a clone of the source's job.
-zundo_status_t cloneTicket(zundo_int_object_s **out, const zundo_int_object_s *source) {
-    if (out == nullptr || !isObjectOfType(source, ZUNDO_TYPE_JOB_TICKET))
-        return ZUNDO_INVALID_ARGUMENT;
-    const auto *data = static_cast<const zundo_job_ticket_data_s *>(source->data);
-    zundo_int_object_s *job = cloneObj(data->job);
+// gets a clone of the source's job in place of its empty one.
+zundo_status_t cloneJobOfTicket(zundo_int_object_s *copy, const zundo_int_object_s *source) {
+    zundo_int_object_s *job =
+        cloneObj(static_cast<const zundo_job_ticket_data_s *>(source->data)->job);
     if (job == nullptr) return ZUNDO_ERROR;
-    zundo_int_object_s *copy = nullptr;
-    zundo_status_t status = newJobTicketInfoFromJob(&copy, job);
-    if (status != ZUNDO_OK) {
-        destroy(job);
-        return status;
-    }
-    status = genericClone(jobTicketAttributes, source, copy);
-    if (status != ZUNDO_OK) {
-        destroy(copy);
-        return status;
-    }
-    *out = copy;
+    auto *data = static_cast<zundo_job_ticket_data_s *>(copy->data);
+    destroy(data->job);
+    data->job = job;
     return ZUNDO_OK;
 }
+
+const zundo_object_type_s kTicketType = {
+    ZUNDO_TYPE_JOB_TICKET, "invalid object passed to destroyJobTicketInfo\n",
+    sizeof(zundo_job_ticket_data_s), validateTicket, newBlankTicket, releaseJobAndPendingMedia,
+    nullptr, cloneJobOfTicket,
+};
 
 }  // namespace
 
@@ -95,9 +87,6 @@ zundo_status_t newJobTicketInfoFromJob(zundo_int_object_s **out, zundo_int_objec
     zundo_int_object_s *ticket = nullptr;
     zundo_status_t status = newTypedObject<kTicketType>(&ticket, "newJobTicketInfoFromJob");
     if (status != ZUNDO_OK) return status;
-    ticket->destroyHook = destroyTicket;
-    ticket->cloneHook = cloneTicket;
-    ticket->compareHook = compareJobTicketInfos;
     auto *data = static_cast<zundo_job_ticket_data_s *>(ticket->data);
     clearProcessTable(&data->readEnv);
     status = storeDirectly(data, "jt-syntax-version", "1.4");
@@ -129,9 +118,6 @@ zundo_int_object_s *getJob(zundo_int_object_s *ticket) {
 }
 
 int compareJobTicketInfos(const zundo_int_object_s *a, const zundo_int_object_s *b) {
-    if (a == b) return 0;
-    if (!isObjectOfType(a, ZUNDO_TYPE_JOB_TICKET) || !isObjectOfType(b, ZUNDO_TYPE_JOB_TICKET))
-        return 1;
     return typeCompare<kTicketType>(a, b);
 }
 

@@ -192,17 +192,11 @@ zundo_status_t setBinaryFromBase64(zundo_int_object_s *object, const char *name,
 
 zundo_status_t setWordListFromText(zundo_int_object_s *object, const char *name, const char *text,
                                    const char *separators) {
-    zundo_int_attribute_s *attribute = nullptr;
-    zundo_status_t status = newAttribute(&attribute, name, ZUNDO_KIND_STRING, nullptr);
-    if (status != ZUNDO_OK) return status;
-    for (const std::string &word : splitWords(text, separators)) {
-        status = addValue(attribute, word.c_str());
-        if (status != ZUNDO_OK) {
-            destroyAttribute(attribute);
-            return status;
-        }
-    }
-    return setAndReleaseAttribute(object, attribute);
+    std::vector<std::string> words = splitWords(text, separators);
+    std::vector<const void *> values;
+    for (const std::string &word : words) values.push_back(word.c_str());
+    values.push_back(nullptr);
+    return setValueList(object, name, ZUNDO_KIND_STRING, values.data());
 }
 
 zundo_status_t appendAttributeValue(zundo_int_object_s *object, const char *name,
