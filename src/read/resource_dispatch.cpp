@@ -9,6 +9,9 @@
 #include <new>
 
 #include "read/job_node_readers.h"
+#include "read/layout_element_reader.h"
+#include "read/layout_preparation_reader.h"
+#include "read/run_list_reader.h"
 #include "zundo_trace.h"
 
 namespace {
@@ -29,6 +32,23 @@ zundo_status_t readNodeInfo(xercesc::DOMElement *resource, const char *,
     return readNodeInfoResource(resource, context->ticket);
 }
 
+zundo_status_t readLayoutElement(xercesc::DOMElement *resource, const char *,
+                                 ResourceReadContext *context) {
+    return readLayoutElementResource(resource, context->ticket, &context->layoutElements,
+                                     context->fileList);
+}
+
+zundo_status_t readRunListDocuments(xercesc::DOMElement *resource, const char *,
+                                    ResourceReadContext *context) {
+    return readRunListLayoutElements(resource, context->ticket, &context->layoutElements,
+                                     context->fileList);
+}
+
+zundo_status_t readLayoutPreparationParams(xercesc::DOMElement *resource, const char *,
+                                           ResourceReadContext *context) {
+    return readLayoutPreparationParamsResource(resource, context->ticket, context->mediaList);
+}
+
 template <typename Row>
 const Row *findRow(const Row *table, size_t rows, const char *name) {
     if (table == nullptr || name == nullptr) return nullptr;
@@ -47,9 +67,9 @@ const ResourceReaderRow kFileSpecPassReaders[] = {
 const size_t kFileSpecPassReaderCount = sizeof(kFileSpecPassReaders) / sizeof(ResourceReaderRow);
 
 const ResourceReaderRow kLayoutPassReaders[] = {
-    {"LayoutElement", nullptr, false},
+    {"LayoutElement", readLayoutElement, false},
     {"Media", collectMedia, false},
-    {"RunList", nullptr, false},
+    {"RunList", readRunListDocuments, false},
 };
 const size_t kLayoutPassReaderCount = sizeof(kLayoutPassReaders) / sizeof(ResourceReaderRow);
 
@@ -71,13 +91,13 @@ const ResourceReaderRow kParameterPassReaders[] = {
     {"Ink", nullptr, false},
     {"InterpretingParams", nullptr, false},
     {"Layout", nullptr, false},
-    {"LayoutPreparationParams", nullptr, false},
+    {"LayoutPreparationParams", readLayoutPreparationParams, false},
     {"NodeInfo", readNodeInfo, false},
     {"PDLResourceAlias", nullptr, false},
     {"PrintCondition", nullptr, false},
     {"RenderingParams", nullptr, false},
     {"RingBindingParams", nullptr, false},
-    {"RunList", nullptr, false},
+    {"RunList", readRunListResource, false},
     {"ScreeningParams", nullptr, false},
     {"SpineTapingParams", nullptr, false},
     {"StitchingParams", nullptr, false},
@@ -98,7 +118,7 @@ const size_t kNodePoolReaderCount = sizeof(kNodePoolReaders) / sizeof(ResourceRe
 
 const LinkReaderRow kLinkReaders[] = {
     {"ComponentLink", nullptr},
-    {"RunListLink", nullptr},
+    {"RunListLink", readRunListLinkElement},
 };
 const size_t kLinkReaderCount = sizeof(kLinkReaders) / sizeof(LinkReaderRow);
 

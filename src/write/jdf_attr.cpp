@@ -1,10 +1,12 @@
 // Attributes on resources and their partitions.
 #include "write/jdf_attr.h"
 
+#include <cstdlib>
 #include <cstring>
 #include <new>
 #include <vector>
 
+#include "write/resource_getters.h"
 #include "xml/partitions.h"
 #include "zundo_trace.h"
 
@@ -93,7 +95,77 @@ zundo_status_t setOnElementOrPartition(xercesc::DOMElement *element, const char 
     return setDocRunIndexPartitionAttr(element, &entry).status;
 }
 
+// The RunIndex partition of a cell-level leaf, made when missing.
+xercesc::DOMElement *leafRunPartition(xercesc::DOMElement *leaf, const char *runRange) {
+    ElementVector runs;
+    collectPartitions(leaf, "RunIndex", runRange, &runs);
+    if (!runs.empty()) return runs.front();
+    xercesc::DOMElement *run = appendChildTraced(leaf, kLayoutPreparationParams);
+    if (run != nullptr && !succeededTraced(setNamedAttribute(run, "RunIndex", runRange)))
+        return nullptr;
+    return run;
+}
+
+bool appendToList(ElementEntry ***list, size_t *count, xercesc::DOMElement *element) {
+    if (!growListForAppend(list, *count)) return false;
+    auto *entry = static_cast<ElementEntry *>(std::calloc(1, sizeof(ElementEntry)));
+    if (entry == nullptr) return false;
+    entry->element = element;
+    (*list)[(*count)++] = entry;
+    return true;
+}
+
+// The partitions that receive the new elements: every cell-level leaf's
+// RunIndex partition, the RunIndex partition of the resource, or the
+// resource itself.
+void collectLPPTargets(const JDFWriteContext *ctx, xercesc::DOMElement *resource,
+                       const char *runRange, int cellLevel, ElementVector *targets) {
+    if (isCellLevelTarget(ctx, resource, cellLevel, runRange)) {
+        ElementVector leaves;
+        collectCellLevelLeaves(ctx, resource, &leaves);
+        for (xercesc::DOMElement *leaf : leaves)
+            if (xercesc::DOMElement *run = leafRunPartition(leaf, runRange))
+                targets->push_back(run);
+        return;
+    }
+    if (runRange == nullptr) {
+        targets->push_back(resource);
+        return;
+    }
+    xercesc::DOMElement *run =
+        findOrCreateSubPartition(resource, "Run", nullptr, "RunIndex", runRange, "RunIndex");
+    if (run != nullptr) targets->push_back(run);
+    else zundo_trace("parser_error %i, \n", ZUNDO_INTERNAL_ERROR);
+}
+
 }  // namespace
+
+zundo_status_t addLPPRunIndexElement(JDFWriteContext *ctx, const char *elementName,
+                                     const char *runRange, int cellLevel, ElementEntry ***list) {
+    if (ctx == nullptr || elementName == nullptr || list == nullptr) return ZUNDO_INVALID_ARGUMENT;
+    *list = nullptr;
+    xercesc::DOMElement *resource = getLayoutPreparationParams(ctx);
+    if (resource == nullptr) return ZUNDO_ERROR;
+    size_t count = 0;
+    zundo_status_t status = ZUNDO_OK;
+    try {
+        ElementVector targets;
+        collectLPPTargets(ctx, resource, runRange, cellLevel, &targets);
+        for (xercesc::DOMElement *target : targets) {
+            xercesc::DOMElement *element = appendChildTraced(target, elementName);
+            if (element == nullptr) continue;
+            if (!appendToList(list, &count, element)) {
+                status = ZUNDO_OUT_OF_MEMORY;
+                break;
+            }
+        }
+    } catch (const std::bad_alloc &) {
+        status = ZUNDO_OUT_OF_MEMORY;
+    }
+    bool terminated = terminateElementList(list, count);
+    if (status == ZUNDO_OUT_OF_MEMORY || !terminated) traceOutOfMemory("addLPPRunIndexElement");
+    return terminated ? status : ZUNDO_OUT_OF_MEMORY;
+}
 
 zundo_status_t writeJDFAttr(JDFWriteContext *ctx, const char *name, const char *value,
                             int cellLevel, const char *runRange, const char *documentIndex,
@@ -114,6 +186,16 @@ zundo_status_t writeJDFAttr(JDFWriteContext *ctx, const char *name, const char *
 }
 
 void setAttributeTraced(xercesc::DOMElement *element, const char *name, const char *value) {
-    zundo_status_t status = setNamedAttribute(element, name, value);
-    if (status != ZUNDO_OK) zundo_trace("parser_error %i, \n", status);
+    succeededTraced(setNamedAttribute(element, name, value));
+}
+
+bool succeededTraced(zundo_status_t status) {
+    if (status == ZUNDO_OK) return true;
+    zundo_trace("parser_error %i, \n", status);
+    return false;
+}
+
+xercesc::DOMElement *appendChildTraced(xercesc::DOMElement *parent, const char *name) {
+    ElementEntry entry = {nullptr, name, nullptr, nullptr};
+    return succeededTraced(createChildElement(parent, &entry).status) ? entry.element : nullptr;
 }

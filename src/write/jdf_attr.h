@@ -4,6 +4,7 @@
 #define ZUNDO_WRITE_JDF_ATTR_H
 
 #include "write/writer_context.h"
+#include "xml/jdf_entries.h"
 
 // A resource getter, or getJDFRoot.
 typedef xercesc::DOMElement *(*ElementGetter)(JDFWriteContext *ctx);
@@ -22,8 +23,23 @@ zundo_status_t writeJDFAttr(JDFWriteContext *ctx, const char *name, const char *
                             int cellLevel, const char *runRange, const char *documentIndex,
                             ElementGetter getter);
 
+// Creates element(s) elementName in LayoutPreparationParams and hands them
+// out in *list (null-terminated, released with freeElementList):
+// - cellLevel 1 with a runRange while cell or side partitions exist: one in
+//   the RunIndex partition of every CellIndex / Side leaf, that partition
+//   made when missing;
+// - otherwise one, in the RunIndex partition of runRange (made when
+//   missing) or, without a runRange, in the resource itself.
+// When memory runs out the list holds what was made so far.
+zundo_status_t addLPPRunIndexElement(JDFWriteContext *ctx, const char *elementName,
+                                     const char *runRange, int cellLevel, ElementEntry ***list);
+
 // Sets name = value on the element itself, tracing a failure. For elements
 // that are never partitioned: links, Components, audits, sub-elements.
 void setAttributeTraced(xercesc::DOMElement *element, const char *name, const char *value);
+// True for ZUNDO_OK; any other status is traced as a parser error.
+bool succeededTraced(zundo_status_t status);
+// A new last child of parent; null (traced) when it cannot be made.
+xercesc::DOMElement *appendChildTraced(xercesc::DOMElement *parent, const char *name);
 
 #endif

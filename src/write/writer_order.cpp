@@ -3,8 +3,12 @@
 // appended when first needed.
 #include "write/writer_order.h"
 
+#include "write/attribute_cascade.h"
 #include "write/audits.h"
+#include "write/job_level_resources.h"
+#include "write/page_list.h"
 #include "write/resource_getters.h"
+#include "write/runs.h"
 #include "write/template_info.h"
 
 namespace {
@@ -33,9 +37,9 @@ const WriterStep kWriterOrder[] = {
     {"notifications", kJobInput, nullptr},
     {"process runs", kJobInput, nullptr},
     {"page cells and number-up", kJobInput, nullptr},
-    {"job-level resources", kJobInput, nullptr},
-    {"page list", kJobInput, nullptr},
-    {"runs", kJobInput, nullptr},
+    {"job-level resources", kJobInput, writeJobLevelResources},
+    {"page list", kJobInput, writePageList},
+    {"runs", kJobInput, writeRuns},
     {"colour control bar", kJobInput, nullptr},
     {"named features", kJobInput, nullptr},
     {"records", kJobInput, nullptr},
@@ -44,8 +48,8 @@ const WriterStep kWriterOrder[] = {
     {"binding edge", kJobInput, nullptr},
     {"edge and thin-line enhancement", kJobInput, nullptr},
     {"extensions", kTicketInput, writeExtensions},
-    {"documents", kJobInput, nullptr},
-    {"page ranges", kJobInput, nullptr},
+    {"documents", kJobInput, writeDocuments},
+    {"page ranges", kJobInput, writePageRanges},
     {"default font", kJobInput, nullptr},
     {"output-intent profile use", kJobInput, nullptr},
     {"mirror surface", kJobInput, nullptr},
