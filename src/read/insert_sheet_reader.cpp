@@ -11,29 +11,7 @@
 #include "xml/index_lists.h"
 #include "zundo_trace.h"
 
-ChildElements::ChildElements(const xercesc::DOMElement *parent) {
-    if (parent == nullptr || getElements(parent, &list_).status != ZUNDO_OK) return;
-    while (list_ != nullptr && list_[count_] != nullptr) ++count_;
-}
-
-xercesc::DOMElement *ChildElements::first(const char *name) const {
-    for (ElementEntry *child : *this)
-        if (std::strcmp(child->name, name) == 0) return child->element;
-    return nullptr;
-}
-
-const IdElement *findIdElement(IdElement *const *list, const char *id) {
-    if (id == nullptr) return nullptr;
-    for (IdElement *const *item = list; item != nullptr && *item != nullptr; ++item)
-        if (std::strcmp((*item)->id, id) == 0) return *item;
-    return nullptr;
-}
-
 namespace {
-
-bool textIs(const char *text, const char *expected) {
-    return text != nullptr && std::strcmp(text, expected) == 0;
-}
 
 // What the children of an InsertSheet say about the sheet.
 struct SheetContent {
@@ -49,20 +27,10 @@ struct SheetContent {
     int copies = -1;
 };
 
-void readSheetMedia(xercesc::DOMElement *mediaRef, IdElement **mediaList, SheetContent *content) {
-    ElementAttribute ref(mediaRef, "rRef");
-    const IdElement *entry = findIdElement(mediaList, ref.value());
-    zundo_int_object_s *copy = nullptr;
-    if (entry == nullptr || entry->media == nullptr || cloneMedia(&copy, entry->media) != ZUNDO_OK)
-        return;
-    if (content->media != nullptr) destroy(content->media);
-    content->media = copy;
-}
-
 void readSheetLayout(xercesc::DOMElement *layout, IdElement **mediaList, SheetContent *content) {
     for (ElementEntry *item : ChildElements(layout)) {
         if (std::strcmp(item->name, "MediaRef") == 0) {
-            readSheetMedia(item->element, mediaList, content);
+            replaceWithReferencedMedia(item->element, mediaList, &content->media);
         } else if (std::strcmp(item->name, "Mark") == 0) {
             for (ElementEntry *field : ChildElements(item->element)) {
                 if (std::strcmp(field->name, "JobField") != 0) continue;

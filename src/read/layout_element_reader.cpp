@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "read/insert_sheet_reader.h"
 #include "read/reader_conversions.h"
 #include "zundo_trace.h"
 

@@ -170,10 +170,6 @@ const CodedAttribute kCodedAttributes[] = {
      "job-page-range-imposition", kNoFilter},
 };
 
-bool textIs(const char *text, const char *expected) {
-    return text != nullptr && std::strcmp(text, expected) == 0;
-}
-
 void setCodeFromAttribute(zundo_int_object_s *object, const char *name,
                           xercesc::DOMElement *element, const char *jdf,
                           const zundo_enum_pair_s *values) {

@@ -4,7 +4,6 @@
 #include <cstring>
 
 #include "enums/value_tables.h"
-#include "read/insert_sheet_reader.h"
 #include "read/reader_conversions.h"
 #include "zundo_object.h"
 #include "zundo_trace.h"

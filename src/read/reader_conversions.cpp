@@ -220,3 +220,28 @@ zundo_status_t setAndReleaseAttribute(zundo_int_object_s *object,
     destroyAttribute(attribute);
     return status;
 }
+
+ChildElements::ChildElements(const xercesc::DOMElement *parent) {
+    if (parent == nullptr || getElements(parent, &list_).status != ZUNDO_OK) return;
+    while (list_ != nullptr && list_[count_] != nullptr) ++count_;
+}
+
+xercesc::DOMElement *ChildElements::first(const char *name) const {
+    for (ElementEntry *child : *this)
+        if (std::strcmp(child->name, name) == 0) return child->element;
+    return nullptr;
+}
+
+bool textIs(const char *text, const char *expected) {
+    return text != nullptr && std::strcmp(text, expected) == 0;
+}
+
+void replaceWithReferencedMedia(const xercesc::DOMElement *mediaRef, IdElement **mediaList,
+                                zundo_int_object_s **media) {
+    const IdElement *entry = findIdElement(mediaList, ElementAttribute(mediaRef, "rRef").value());
+    zundo_int_object_s *copy = nullptr;
+    if (entry == nullptr || entry->media == nullptr || cloneMedia(&copy, entry->media) != ZUNDO_OK)
+        return;
+    if (*media != nullptr) destroy(*media);
+    *media = copy;
+}

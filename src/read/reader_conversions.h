@@ -11,6 +11,7 @@
 #ifndef ZUNDO_READ_READER_CONVERSIONS_H
 #define ZUNDO_READ_READER_CONVERSIONS_H
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -74,6 +75,33 @@ public:
 private:
     AttributeEntry *entry_ = nullptr;
 };
+
+// The child elements of an element, freed on scope exit.
+class ChildElements {
+public:
+    explicit ChildElements(const xercesc::DOMElement *parent);
+    ~ChildElements() { freeElementList(list_); }
+    ChildElements(const ChildElements &) = delete;
+    ChildElements &operator=(const ChildElements &) = delete;
+    ElementEntry *const *begin() const { return list_; }
+    ElementEntry *const *end() const { return list_ + count_; }
+    // The null-terminated list itself (null when it could not be made).
+    ElementEntry *const *entries() const { return list_; }
+    // The first child of that name, or null.
+    xercesc::DOMElement *first(const char *name) const;
+
+private:
+    ElementEntry **list_ = nullptr;
+    size_t count_ = 0;
+};
+
+// False for a null text.
+bool textIs(const char *text, const char *expected);
+
+// A MediaRef naming a media list entry that has a media object replaces
+// *media with a copy of it; anything else leaves *media as it is.
+void replaceWithReferencedMedia(const xercesc::DOMElement *mediaRef, IdElement **mediaList,
+                                zundo_int_object_s **media);
 
 // Adds one value to a multi-valued attribute of the object: the current
 // values are fetched, the value added and the whole set back. An object or

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "read/insert_sheet_reader.h"
 #include "read/page_list_reader.h"
 #include "read/reader_conversions.h"
 #include "xml/index_lists.h"
@@ -32,10 +31,6 @@ enum { kBackSide = 1, kFrontSide = 2 };
 const int kTrailerSheet = 1;
 // What an InsertSheet with a DescriptiveName holds.
 const int kDescribedContent = 3;
-
-bool textIs(const char *text, const char *expected) {
-    return text != nullptr && std::strcmp(text, expected) == 0;
-}
 
 // Adds a Range per page token of the text; a token that is no range is
 // traced and left out. The result is the last token's.
@@ -125,19 +120,11 @@ zundo_status_t readRunListRunLvlAttrs(const xercesc::DOMElement *runList, zundo_
     return ZUNDO_OK;
 }
 
-// A MediaRef naming a media list entry gives the sheet a copy of that
-// entry's media, replacing what an earlier one gave. An entry without a
-// media object gives nothing.
-void takeReferencedMedia(const ElementEntry *mediaRef, IdElement **mediaList,
+// A MediaRef child gives the sheet its media (the last one that names a
+// media object wins).
+void takeReferencedMedia(const ElementEntry *child, IdElement **mediaList,
                          zundo_int_object_s **media) {
-    if (!textIs(mediaRef->name, "MediaRef")) return;
-    const IdElement *entry =
-        findIdElement(mediaList, ElementAttribute(mediaRef->element, "rRef").value());
-    zundo_int_object_s *copy = nullptr;
-    if (entry == nullptr || entry->media == nullptr || cloneMedia(&copy, entry->media) != ZUNDO_OK)
-        return;
-    if (*media != nullptr) destroy(*media);
-    *media = copy;
+    if (textIs(child->name, "MediaRef")) replaceWithReferencedMedia(child->element, mediaList, media);
 }
 
 // What an InsertSheet's children give the sheet.

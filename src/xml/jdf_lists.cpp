@@ -118,3 +118,10 @@ char **parseXPath(char *path, const char *prefix, const char *delimiters) {
     tokens[index] = nullptr;
     return tokens;
 }
+
+const IdElement *findIdElement(IdElement *const *list, const char *id) {
+    if (id == nullptr) return nullptr;
+    for (IdElement *const *item = list; item != nullptr && *item != nullptr; ++item)
+        if (std::strcmp((*item)->id, id) == 0) return *item;
+    return nullptr;
+}

@@ -22,6 +22,8 @@ typedef zundo_status_t (*MediaObjectMaker)(zundo_int_object_s **out, xercesc::DO
 zundo_status_t addIdElementToList(xercesc::DOMElement *element, IdElement ***list,
                                   MediaObjectMaker makeMedia);
 void freeIdElementList(IdElement **list);
+// The entry with that ID, or null.
+const IdElement *findIdElement(IdElement *const *list, const char *id);
 
 // A new null-terminated array of the pointers of a, then those of b (null
 // counts as empty); the texts are shared. Freed with std::free; null when

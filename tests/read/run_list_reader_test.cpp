@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "read/read_test_support.h"
-#include "read/insert_sheet_reader.h"
+#include "read/reader_conversions.h"
 #include "xml/xml_test_support.h"
 
 namespace {

@@ -196,21 +196,6 @@ TEST(WriteCascade, PageListCarriesPaginationsAndColourStandard) {
     EXPECT_EQ(attribute(colorPools[0], "ColorantSetName"), "Euroscale");
 }
 
-// A context whose document and root are made, as the writers see it.
-struct WriterHarness {
-    explicit WriterHarness(TestTicket &ticket) {
-        EXPECT_EQ(createJDFDocument(&ctx, "UTF-8"), ZUNDO_OK);
-        EXPECT_EQ(writeJDFNode(&ctx, ticket.ticket, ticket.job), ZUNDO_OK);
-    }
-    ~WriterHarness() {
-        releaseWriterContext(&ctx);
-        releaseDOMDocument(ctx.document);
-    }
-    WriterHarness(const WriterHarness &) = delete;
-
-    JDFWriteContext ctx = {};
-};
-
 std::vector<xercesc::DOMElement *> listed(ElementEntry **list) {
     std::vector<xercesc::DOMElement *> elements;
     for (ElementEntry **entry = list; entry != nullptr && *entry != nullptr; ++entry)

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "write/jdf_root.h"
+#include "write/write_driver.h"
 #include "xml/jdf_test_support.h"
 #include "zundo.h"
 
@@ -25,6 +27,22 @@ struct TestTicket {
 
     zundo_int_object_s *job = nullptr;
     zundo_int_object_s *ticket = nullptr;
+};
+
+// A context with its document and root made from the ticket, as the driver
+// has it when the attribute writers run.
+struct WriterHarness {
+    explicit WriterHarness(TestTicket &ticket) {
+        EXPECT_EQ(createJDFDocument(&ctx, "UTF-8"), ZUNDO_OK);
+        EXPECT_EQ(writeJDFNode(&ctx, ticket.ticket, ticket.job), ZUNDO_OK);
+    }
+    ~WriterHarness() {
+        releaseWriterContext(&ctx);
+        releaseDOMDocument(ctx.document);
+    }
+    WriterHarness(const WriterHarness &) = delete;
+
+    JDFWriteContext ctx = {};
 };
 
 inline std::vector<xercesc::DOMElement *> childElements(const xercesc::DOMElement *parent,

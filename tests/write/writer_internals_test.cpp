@@ -20,22 +20,6 @@
 
 namespace {
 
-// A context with its document and root made from the ticket, as the driver
-// has it when the attribute writers run.
-struct WriterHarness {
-    explicit WriterHarness(TestTicket &ticket) {
-        EXPECT_EQ(createJDFDocument(&ctx, "UTF-8"), ZUNDO_OK);
-        EXPECT_EQ(writeJDFNode(&ctx, ticket.ticket, ticket.job), ZUNDO_OK);
-    }
-    ~WriterHarness() {
-        releaseWriterContext(&ctx);
-        releaseDOMDocument(ctx.document);
-    }
-    WriterHarness(const WriterHarness &) = delete;
-
-    JDFWriteContext ctx = {};
-};
-
 std::string real(double value) {
     char text[kNumberTextSize];
     return formatReal(text, sizeof text, value) != nullptr ? text : "(null)";
