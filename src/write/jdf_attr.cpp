@@ -100,9 +100,8 @@ xercesc::DOMElement *leafRunPartition(xercesc::DOMElement *leaf, const char *run
     ElementVector runs;
     collectPartitions(leaf, "RunIndex", runRange, &runs);
     if (!runs.empty()) return runs.front();
-    xercesc::DOMElement *run = appendChildTraced(leaf, kLayoutPreparationParams);
-    if (run != nullptr && !succeededTraced(setNamedAttribute(run, "RunIndex", runRange)))
-        return nullptr;
+    xercesc::DOMElement *run = appendPartition(leaf, "RunIndex", runRange);
+    if (run == nullptr) zundo_trace("parser_error %i, \n", ZUNDO_INTERNAL_ERROR);
     return run;
 }
 

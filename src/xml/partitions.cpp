@@ -7,6 +7,7 @@
 
 #include <cstring>
 
+#include "xml/partition_index.h"
 #include "zundo_trace.h"
 
 XERCES_CPP_NAMESPACE_USE
@@ -207,6 +208,19 @@ zundo_result_t getRunIndexLvlElements(const DOMElement *resource, ElementEntry *
 namespace {
 
 // The first partition below `parent` (at any depth) named like it whose
+// key equals the value, by walking the subtree.
+DOMElement *searchBelow(const DOMElement *parent, const XMLCh *key, const XMLCh *value) {
+    const XMLCh *name = parent->getTagName();
+    for (const DOMElement *at = nextInDocumentOrder(parent, parent); at != nullptr;
+         at = nextInDocumentOrder(at, parent)) {
+        if (sameName(at->getTagName(), name) && at->hasAttribute(key) &&
+            XMLString::equals(at->getAttribute(key), value))
+            return const_cast<DOMElement *>(at);
+    }
+    return nullptr;
+}
+
+// The first partition below `parent` (at any depth) named like it whose
 // key equals the value; the key must be present, so an empty value does
 // not match a partition that lacks the key. Created under parent when
 // there is none.
@@ -217,22 +231,10 @@ DOMElement *findOrCreateBelow(DOMElement *parent, const char *key, const char *v
         traceOutOfMemory("findOrCreatePartition");
         return nullptr;
     }
-    const XMLCh *name = parent->getTagName();
-    for (const DOMElement *at = nextInDocumentOrder(parent, parent); at != nullptr;
-         at = nextInDocumentOrder(at, parent)) {
-        if (sameName(at->getTagName(), name) && at->hasAttribute(wideKey.get()) &&
-            XMLString::equals(at->getAttribute(wideKey.get()), wideValue.get()))
-            return const_cast<DOMElement *>(at);
-    }
-    DOMElement *partition = nullptr;
-    try {
-        partition = parent->getOwnerDocument()->createElement(name);
-        parent->appendChild(partition);
-    } catch (...) {
-        domFailure("findOrCreatePartition");
-        return nullptr;
-    }
-    return setNamedAttribute(partition, key, value) == ZUNDO_OK ? partition : nullptr;
+    bool unindexed = false;
+    DOMElement *found = findIndexedPartition(parent, wideKey.get(), wideValue.get(), &unindexed);
+    if (unindexed) found = searchBelow(parent, wideKey.get(), wideValue.get());
+    return found != nullptr ? found : appendPartition(parent, key, value);
 }
 
 bool partIdKeysEqual(const DOMElement *resource, const char *keys) {
@@ -242,6 +244,24 @@ bool partIdKeysEqual(const DOMElement *resource, const char *keys) {
 }
 
 }  // namespace
+
+DOMElement *appendPartition(DOMElement *parent, const char *key, const char *value) {
+    if (parent == nullptr || key == nullptr || value == nullptr) return nullptr;
+    DOMElement *partition = nullptr;
+    try {
+        partition = parent->getOwnerDocument()->createElement(parent->getTagName());
+        parent->appendChild(partition);
+    } catch (...) {
+        domFailure("findOrCreatePartition");
+        return nullptr;
+    }
+    if (setNamedAttribute(partition, key, value) != ZUNDO_OK) return nullptr;
+    WideText wideKey(key, false);
+    WideText wideValue(value, true);
+    if (wideKey.get() != nullptr && wideValue.get() != nullptr)
+        recordAppendedPartition(parent, wideKey.get(), wideValue.get(), partition);
+    return partition;
+}
 
 DOMElement *findOrCreatePartition(DOMElement *resource, const char *value, const char *key) {
     if (resource == nullptr || value == nullptr || key == nullptr) return nullptr;

@@ -38,6 +38,12 @@ zundo_result_t getRunIndexLvlElements(const xercesc::DOMElement *resource, Eleme
 // null only on bad arguments or when the DOM refuses.
 xercesc::DOMElement *findOrCreatePartition(xercesc::DOMElement *resource, const char *value,
                                            const char *key);
+// A new partition named like parent, appended to it with key = value; null
+// when the DOM refuses. Partitions of a document being written are made
+// only this way (or by the find-or-create operations), so that lookups stay
+// indexed.
+xercesc::DOMElement *appendPartition(xercesc::DOMElement *parent, const char *key,
+                                     const char *value);
 // With a null firstValue the second-level partition sits directly under
 // the resource and PartIDKeys becomes secondKey alone.
 xercesc::DOMElement *findOrCreateSubPartition(xercesc::DOMElement *resource, const char *firstKey,

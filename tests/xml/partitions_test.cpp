@@ -145,6 +145,26 @@ TEST(Partitions, FindOrCreateReusesPartitions) {
     EXPECT_EQ(nullptr, findOrCreatePartition(w.resource, nullptr, "DocIndex"));
 }
 
+// Lookups are indexed; the index must keep giving what a walk in document
+// order gives, also when a partition made later precedes the one found
+// before, or when one found before has been taken out.
+TEST(Partitions, FindOrCreateGivesTheFirstInDocumentOrder) {
+    WrittenResource w(u"Media");
+    DOMElement *doc0 = findOrCreatePartition(w.resource, "0", "DocIndex");
+    ASSERT_NE(nullptr, doc0);
+    DOMElement *late = findOrCreateSubPartition(w.resource, "DocIndex", "1", "RunIndex", "7",
+                                                "DocIndex RunIndex");
+    ASSERT_NE(nullptr, late);
+    EXPECT_EQ(late, findOrCreatePartition(w.resource, "7", "RunIndex"));
+    DOMElement *early = findOrCreateSubPartition(w.resource, "DocIndex", "0", "RunIndex", "7",
+                                                 "DocIndex RunIndex");
+    ASSERT_NE(late, early);
+    EXPECT_EQ(doc0, early->getParentNode());
+    EXPECT_EQ(early, findOrCreatePartition(w.resource, "7", "RunIndex"));
+    doc0->removeChild(early)->release();
+    EXPECT_EQ(late, findOrCreatePartition(w.resource, "7", "RunIndex"));
+}
+
 TEST(Partitions, WritingAttributesAndElementsIntoPartitions) {
     WrittenResource dpp(u"DigitalPrintingParams");
     AttributeEntry sides = {"Sides", "TwoSided", nullptr, "0 ~ 3"};

@@ -1,0 +1,31 @@
+// An index of the partitions of one DOM document, so that finding the
+// partition of a key value costs the same however many partitions a
+// resource already has. Without it every lookup walks the whole subtree,
+// and writing a ticket with thousands of page ranges becomes quadratic.
+//
+// The index hangs on the document and is freed with it. It sees the
+// partitions that exist when a parent is first searched and those made
+// through appendIndexedPartition afterwards; partitions must not be added
+// to a searched parent in any other way.
+#ifndef ZUNDO_XML_PARTITION_INDEX_H
+#define ZUNDO_XML_PARTITION_INDEX_H
+
+#include <xercesc/util/XercesDefs.hpp>
+
+XERCES_CPP_NAMESPACE_BEGIN
+class DOMElement;
+XERCES_CPP_NAMESPACE_END
+
+// The first element below parent, at any depth and in document order,
+// named like parent whose attribute key equals value; null when there is
+// none. *failed is set when the index cannot be had (out of memory): the
+// caller then searches itself.
+xercesc::DOMElement *findIndexedPartition(const xercesc::DOMElement *parent, const XMLCh *key,
+                                          const XMLCh *value, bool *failed);
+
+// Records a partition just appended as the last child of parent with
+// key = value.
+void recordAppendedPartition(const xercesc::DOMElement *parent, const XMLCh *key,
+                             const XMLCh *value, xercesc::DOMElement *partition);
+
+#endif
