@@ -8,9 +8,14 @@
 #include <memory>
 #include <new>
 
+#include "read/component_reader.h"
+#include "read/device_reader.h"
+#include "read/digital_printing_reader.h"
+#include "read/finishing_reader.h"
 #include "read/job_node_readers.h"
 #include "read/layout_element_reader.h"
 #include "read/layout_preparation_reader.h"
+#include "read/media_reader.h"
 #include "read/run_list_reader.h"
 #include "zundo_trace.h"
 
@@ -21,10 +26,10 @@ zundo_status_t collectFileSpec(xercesc::DOMElement *resource, const char *,
     return addIdElementToList(resource, &context->fileList, nullptr);
 }
 
-// The entries carry the Media element; no media object is made of it here.
+// Each entry carries the Media element and the media object made of it.
 zundo_status_t collectMedia(xercesc::DOMElement *resource, const char *,
                             ResourceReadContext *context) {
-    return addIdElementToList(resource, &context->mediaList, nullptr);
+    return addIdElementToList(resource, &context->mediaList, createMediaObject);
 }
 
 zundo_status_t readNodeInfo(xercesc::DOMElement *resource, const char *,
@@ -47,6 +52,28 @@ zundo_status_t readRunListDocuments(xercesc::DOMElement *resource, const char *,
 zundo_status_t readLayoutPreparationParams(xercesc::DOMElement *resource, const char *,
                                            ResourceReadContext *context) {
     return readLayoutPreparationParamsResource(resource, context->ticket, context->mediaList);
+}
+
+zundo_status_t readComponent(xercesc::DOMElement *resource, const char *,
+                             ResourceReadContext *context) {
+    return readComponentResource(resource, context->ticket, context->mediaList);
+}
+
+zundo_status_t readDigitalPrintingParams(xercesc::DOMElement *resource, const char *,
+                                         ResourceReadContext *context) {
+    return readDigitalPrintingParamsResource(resource, context->ticket, context->mediaList);
+}
+
+zundo_status_t readCalibrationTypeParams(xercesc::DOMElement *resource, const char *,
+                                         ResourceReadContext *context) {
+    return readCalibrationTypeParamsResource(resource, getJob(context->ticket));
+}
+
+// The job-level readers that take only the ticket.
+template <zundo_status_t (*reader)(xercesc::DOMElement *, zundo_int_object_s *)>
+zundo_status_t readForTicket(xercesc::DOMElement *resource, const char *,
+                             ResourceReadContext *context) {
+    return reader(resource, context->ticket);
 }
 
 template <typename Row>
@@ -80,33 +107,33 @@ const ResourceReaderRow kColourPassReaders[] = {
 const size_t kColourPassReaderCount = sizeof(kColourPassReaders) / sizeof(ResourceReaderRow);
 
 const ResourceReaderRow kParameterPassReaders[] = {
-    {"Component", nullptr, false},
-    {"CoverApplicationParams", nullptr, false},
+    {"Component", readComponent, false},
+    {"CoverApplicationParams", readFinishingResource, false},
     {"CustomerInfo", nullptr, false},
-    {"Device", nullptr, true},
-    {"DigitalPrintingParams", nullptr, false},
-    {"FoldingParams", nullptr, false},
-    {"FontPolicy", nullptr, false},
-    {"HoleMakingParams", nullptr, false},
+    {"Device", readForTicket<readDeviceResource>, true},
+    {"DigitalPrintingParams", readDigitalPrintingParams, false},
+    {"FoldingParams", readFinishingResource, false},
+    {"FontPolicy", readForTicket<readFontPolicyResource>, false},
+    {"HoleMakingParams", readFinishingResource, false},
     {"Ink", nullptr, false},
-    {"InterpretingParams", nullptr, false},
+    {"InterpretingParams", readForTicket<readMorvellanInterpretingParamsResource>, false},
     {"Layout", nullptr, false},
     {"LayoutPreparationParams", readLayoutPreparationParams, false},
     {"NodeInfo", readNodeInfo, false},
-    {"PDLResourceAlias", nullptr, false},
+    {"PDLResourceAlias", readForTicket<readPDLResourceAliasResource>, false},
     {"PrintCondition", nullptr, false},
     {"RenderingParams", nullptr, false},
-    {"RingBindingParams", nullptr, false},
+    {"RingBindingParams", readFinishingResource, false},
     {"RunList", readRunListResource, false},
-    {"ScreeningParams", nullptr, false},
-    {"SpineTapingParams", nullptr, false},
-    {"StitchingParams", nullptr, false},
-    {"TrappingDetails", nullptr, false},
-    {"TrimmingParams", nullptr, false},
+    {"ScreeningParams", readFinishingResource, false},
+    {"SpineTapingParams", readFinishingResource, false},
+    {"StitchingParams", readFinishingResource, false},
+    {"TrappingDetails", readFinishingResource, false},
+    {"TrimmingParams", readFinishingResource, false},
     {"UsageCounter", nullptr, false},
-    {"WireCombBindingParams", nullptr, false},
-    {"morvellan:CalibrationTypeParams", nullptr, false},
-    {"morvellan:RecordInfo", nullptr, false},
+    {"WireCombBindingParams", readFinishingResource, false},
+    {"morvellan:CalibrationTypeParams", readCalibrationTypeParams, false},
+    {"morvellan:RecordInfo", readForTicket<readRecordInfoResource>, false},
     {"morvellan:StrippingParams", nullptr, false},
 };
 const size_t kParameterPassReaderCount = sizeof(kParameterPassReaders) / sizeof(ResourceReaderRow);
@@ -117,7 +144,7 @@ const ResourceReaderRow kNodePoolReaders[] = {
 const size_t kNodePoolReaderCount = sizeof(kNodePoolReaders) / sizeof(ResourceReaderRow);
 
 const LinkReaderRow kLinkReaders[] = {
-    {"ComponentLink", nullptr},
+    {"ComponentLink", readComponentLinkElement},
     {"RunListLink", readRunListLinkElement},
 };
 const size_t kLinkReaderCount = sizeof(kLinkReaders) / sizeof(LinkReaderRow);

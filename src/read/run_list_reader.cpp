@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "read/device_reader.h"
+#include "read/finishing_reader.h"
 #include "read/page_list_reader.h"
 #include "read/reader_conversions.h"
 #include "xml/index_lists.h"
@@ -52,8 +54,12 @@ zundo_status_t addRangesOfPages(zundo_int_attribute_s *attribute, const char *te
 
 void readRunListElements(xercesc::DOMElement *runList, zundo_int_object_s *job) {
     zundo_trace(">> Entering readRunListElements \n");
-    for (ElementEntry *child : ChildElements(runList))
-        if (textIs(child->name, "PageList")) readPageListElement(child->element, job);
+    for (ElementEntry *child : ChildElements(runList)) {
+        if (textIs(child->name, "PageList"))
+            readPageListElement(child->element, job);
+        else if (textIs(child->name, "Disposition"))
+            readDispositionElement(runList, child->element, job);
+    }
     zundo_trace("<< Leaving readRunListElements \n");
 }
 
@@ -131,7 +137,21 @@ void takeReferencedMedia(const ElementEntry *child, IdElement **mediaList,
 struct SheetContent {
     int copies = 0;
     zundo_int_object_s *media = nullptr;
+    zundo_int_object_s *folding = nullptr;
 };
+
+// The sheet's folding from the attributes of a FoldingParams child; a
+// later one replaces an earlier one.
+void readSheetFolding(const xercesc::DOMElement *foldingParams, SheetContent *content) {
+    AttributeEntry **attrs = nullptr;
+    getAttrs(foldingParams, &attrs);
+    zundo_int_object_s *folding = nullptr;
+    if (createFoldingObject(&folding, attrs, nullptr, nullptr) == ZUNDO_OK) {
+        if (content->folding != nullptr) destroy(content->folding);
+        content->folding = folding;
+    }
+    freeAttrList(attrs);
+}
 
 // The Layout or Sheet of an InsertSheet: its MediaRefs, then, when it is
 // partitioned, those of its Layout partitions.
@@ -155,6 +175,8 @@ void readInsertSheetChildren(const xercesc::DOMElement *insertSheet, IdElement *
             if (copies.value() != nullptr) convertStringToInt(copies.value(), &content->copies);
         } else if (textIs(child->name, "Layout") || textIs(child->name, "Sheet")) {
             readSheetLayout(child->element, mediaList, content);
+        } else if (textIs(child->name, "FoldingParams")) {
+            readSheetFolding(child->element, content);
         }
     }
 }
@@ -199,6 +221,7 @@ zundo_status_t addInsertSheet(zundo_int_object_s *owner, const char *attribute, 
             zundo_trace("readInsertSheetElements() generated out of memory");
             for (zundo_range_s *made : pages) destroyRange(made);
             if (content.media != nullptr) destroy(content.media);
+            if (content.folding != nullptr) destroy(content.folding);
             return status;
         }
         if (status == ZUNDO_OK) pages.push_back(range);
@@ -208,9 +231,13 @@ zundo_status_t addInsertSheet(zundo_int_object_s *owner, const char *attribute, 
     zundo_status_t status = newInsertSheet(&sheet, kind, pages.data(), content.media);
     if (status != ZUNDO_OK) {
         zundo_trace("call to newInsertSheet failed: error code %d \n", status);
+        if (content.folding != nullptr) destroy(content.folding);
         return status;
     }
     if (content.copies != 0) setIntegerAttribute(sheet, "insert-sheet-copies", content.copies);
+    if (content.folding != nullptr &&
+        setObjectAttribute(sheet, "insert-sheet-folding", content.folding) != ZUNDO_OK)
+        destroy(content.folding);
     if (described) setIntegerAttribute(sheet, "insert-sheet-content", kDescribedContent);
     return appendAttributeValue(owner, attribute, sheet);
 }

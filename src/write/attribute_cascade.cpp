@@ -6,7 +6,9 @@
 #include "enums/value_tables.h"
 #include "job/abstract_jdp.h"
 #include "values/value_objects.h"
+#include "write/finishing_writer.h"
 #include "write/jdf_root.h"
+#include "write/media_writer.h"
 #include "write/number_format.h"
 #include "write/object_values.h"
 #include "write/resource_getters.h"
@@ -123,6 +125,29 @@ bool elementHasAttribute(const xercesc::DOMElement *element, const char *name) {
     return found;
 }
 
+void writeMediaRefs(JDFWriteContext *ctx, CascadeState *state) {
+    BlockAttribute media(state->object, "media");
+    if (media.hasValue())
+        writeMediaForDPP(ctx, media.firstObject(), state->runRange, state->documentIndex);
+}
+
+void writeFinishing(JDFWriteContext *ctx, CascadeState *state) {
+    typedef void (*FinishingWriter)(JDFWriteContext *, zundo_int_attribute_s *, const char *,
+                                    const char *);
+    static const struct {
+        const char *sharedName;
+        FinishingWriter write;
+    } kFinishing[] = {
+        {"binding", writeBinding},     {"folding", writeFolding},   {"hole-making", writeHoleMaking},
+        {"stitching", writeStitching}, {"trapping", writeTrapping}, {"trimming", writeTrimming},
+    };
+    for (const auto &finishing : kFinishing) {
+        BlockAttribute value(state->object, finishing.sharedName);
+        if (value.hasValue())
+            finishing.write(ctx, value.attribute(), state->runRange, state->documentIndex);
+    }
+}
+
 void writeJobLevelPageRangeValues(JDFWriteContext *ctx, CascadeState *state) {
     if (state->runRange == nullptr || state->documentIndex != nullptr) return;
     FetchedAttribute cover(state->object, "page-range-cover-type");
@@ -216,13 +241,13 @@ void writeOutputBin(JDFWriteContext *ctx, CascadeState *state) {
 
 const CascadeStep kCascadeSteps[] = {
     {"page cells", nullptr, nullptr},
-    {"media", nullptr, nullptr},
+    {"media", writeMediaRefs, nullptr},
     {"fit policy and image shift", nullptr, nullptr},
     {"marks", nullptr, nullptr},
     {"sides", nullptr, kSidesRows},
     {"cover and interface box of job-level page ranges", writeJobLevelPageRangeValues, nullptr},
     {"destination device", writeDestination, nullptr},
-    {"finishing", nullptr, nullptr},
+    {"finishing", writeFinishing, nullptr},
     {"number-up", writeNumberUp, nullptr},
     {"surface contents box", writeSurfaceContentsBox, nullptr},
     {"presentation direction", nullptr, kPresentationDirectionRows},

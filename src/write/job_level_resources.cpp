@@ -3,6 +3,9 @@
 
 #include "enums/value_tables.h"
 #include "write/attribute_cascade.h"
+#include "write/digital_printing_writer.h"
+#include "write/finishing_writer.h"
+#include "write/interpreting_writer.h"
 #include "write/page_list.h"
 #include "write/resource_getters.h"
 #include "zundo_trace.h"
@@ -40,18 +43,27 @@ void writeJobCascade(JDFWriteContext *ctx, zundo_int_object_s *job) {
     writeAbstractJobDocPageAttributes(ctx, job, nullptr, nullptr);
 }
 
+// Their statuses only say whether the last XML operation worked; the
+// failure is traced already.
+void writeAFPResourcesStep(JDFWriteContext *ctx, zundo_int_object_s *job) {
+    writeAFPResources(ctx, job);
+}
+void writeInterpretingParamsStep(JDFWriteContext *ctx, zundo_int_object_s *job) {
+    writeInterpretingParams(ctx, job);
+}
+
 const JobLevelStep kJobLevelSteps[] = {
     {"print parameters of the job", writeJobCascade, nullptr},
     {"created and modified audits", nullptr, nullptr},
     {"collate", nullptr, kCollateRows},
-    {"jog offset", nullptr, nullptr},
+    {"jog offset", writeJogOffset, nullptr},
     {"insert sheets of the job", nullptr, nullptr},
-    {"screening", nullptr, nullptr},
+    {"screening", writeScreening, nullptr},
     {"process pages", writeJobProcessPages, nullptr},
     {"delivery, fuser, imposition, interface box, product and page order", nullptr,
      kJobValueRows},
-    {"AFP resources", nullptr, nullptr},
-    {"interpreting parameters", nullptr, nullptr},
+    {"AFP resources", writeAFPResourcesStep, nullptr},
+    {"interpreting parameters", writeInterpretingParamsStep, nullptr},
     {"separator and banner sheets", nullptr, nullptr},
 };
 

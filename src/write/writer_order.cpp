@@ -5,8 +5,14 @@
 
 #include "write/attribute_cascade.h"
 #include "write/audits.h"
+#include "write/device_writer.h"
+#include "write/digital_printing_writer.h"
 #include "write/job_level_resources.h"
+#include "write/media_writer.h"
+#include "write/named_features.h"
+#include "write/one_attribute_writers.h"
 #include "write/page_list.h"
+#include "write/record_info_writer.h"
 #include "write/resource_getters.h"
 #include "write/runs.h"
 #include "write/template_info.h"
@@ -21,7 +27,7 @@ void sortAuditsLast(JDFWriteContext *ctx, zundo_int_object_s *) { sortAuditPool(
 const WriterStep kWriterOrder[] = {
     {"banner page text comment", kJobInput, nullptr},
     {"job comment and comments", kJobInput, nullptr},
-    {"job copies", kJobInput, nullptr},
+    {"job copies", kJobInput, writeJobCopies},
     {"job processing information", kJobInput, nullptr},
     {"orientation hint", kJobInput, nullptr},
     {"hold activation", kJobInput, nullptr},
@@ -31,8 +37,8 @@ const WriterStep kWriterOrder[] = {
     {"usage counters", kJobInput, nullptr},
     {"ink usages", kJobInput, nullptr},
     {"phase times", kJobInput, nullptr},
-    {"destination connector file format", kJobInput, nullptr},
-    {"destination controller information", kJobInput, nullptr},
+    {"destination connector file format", kJobInput, writeConnectorInfo},
+    {"destination controller information", kJobInput, writeControllerInfo},
     {"notification audits", kJobInput, nullptr},
     {"notifications", kJobInput, nullptr},
     {"process runs", kJobInput, nullptr},
@@ -41,8 +47,8 @@ const WriterStep kWriterOrder[] = {
     {"page list", kJobInput, writePageList},
     {"runs", kJobInput, writeRuns},
     {"colour control bar", kJobInput, nullptr},
-    {"named features", kJobInput, nullptr},
-    {"records", kJobInput, nullptr},
+    {"named features", kJobInput, writeNamedFeatures},
+    {"records", kJobInput, writeRecords},
     {"default parameter resources", kJobInput, createDefaultParameterResources},
     {"black overprint", kJobInput, nullptr},
     {"binding edge", kJobInput, nullptr},
@@ -50,10 +56,10 @@ const WriterStep kWriterOrder[] = {
     {"extensions", kTicketInput, writeExtensions},
     {"documents", kJobInput, writeDocuments},
     {"page ranges", kJobInput, writePageRanges},
-    {"default font", kJobInput, nullptr},
+    {"default font", kJobInput, writeUseDefaultFont},
     {"output-intent profile use", kJobInput, nullptr},
-    {"mirror surface", kJobInput, nullptr},
-    {"PostScript DSC optimisation", kJobInput, nullptr},
+    {"mirror surface", kJobInput, writeMirrorSurface},
+    {"PostScript DSC optimisation", kJobInput, writeUsePSDSCOptimization},
     {"toner limit", kJobInput, nullptr},
     {"spot colour matching", kJobInput, nullptr},
     {"colour profiles", kJobInput, nullptr},
@@ -72,21 +78,21 @@ const WriterStep kWriterOrder[] = {
     {"preserve CMY colours", kJobInput, nullptr},
     {"preserve K black", kJobInput, nullptr},
     {"black substitution", kJobInput, nullptr},
-    {"proof print", kJobInput, nullptr},
+    {"proof print", kJobInput, writeProofPrint},
     {"register marks", kJobInput, nullptr},
     {"trim and bleed marks", kJobInput, nullptr},
     {"units of number-up, image shift and trimming values", kJobInput, nullptr},
     {"finishing order and creep", kJobInput, nullptr},
-    {"audit media", kJobInput, nullptr},
+    {"audit media", kJobInput, writeAuditMedia},
     {"double-imposition cell to rotate", kJobInput, nullptr},
     {"anti-aliasing and output resolution", kJobInput, nullptr},
-    {"PDF XObject caching", kJobInput, nullptr},
+    {"PDF XObject caching", kJobInput, writePDFCacheXObjects},
     {"job priority", kJobInput, nullptr},
     {"print after and before times", kJobInput, nullptr},
-    {"printing type", kJobInput, nullptr},
+    {"printing type", kJobInput, writePrintingType},
     {"authentication", kJobInput, nullptr},
-    {"retain", kJobInput, nullptr},
-    {"image resolution", kJobInput, nullptr},
+    {"retain", kJobInput, writeRetain},
+    {"image resolution", kJobInput, writeImageResolution},
     {"template information", kTicketInput, writeTemplateInfo},
     {"audit order", kJobInput, sortAuditsLast},
 };

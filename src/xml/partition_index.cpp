@@ -109,16 +109,16 @@ DOMElement *findIndexedPartition(const DOMElement *parent, const XMLCh *key, con
     }
 }
 
-void recordAppendedPartition(const DOMElement *parent, const XMLCh *key, const XMLCh *value,
-                             DOMElement *partition) {
+void recordPartitionKey(DOMElement *partition, const XMLCh *key, const XMLCh *value) {
     try {
-        PartitionIndex *index = indexOf(parent);
+        PartitionIndex *index = indexOf(partition);
         // Every enclosing partition of the same name that has been searched
-        // by this key sees the new one; it is their first of this value
-        // unless an earlier one precedes it in document order.
-        const XMLCh *name = parent->getTagName();
-        for (const DOMNode *at = parent; at != nullptr && at->getNodeType() == DOMNode::ELEMENT_NODE;
-             at = at->getParentNode()) {
+        // by this key sees this one; it is their first of this value unless
+        // another precedes it in document order. Entries of the value it
+        // had before are checked when next found.
+        const XMLCh *name = partition->getTagName();
+        for (const DOMNode *at = partition->getParentNode();
+             at != nullptr && at->getNodeType() == DOMNode::ELEMENT_NODE; at = at->getParentNode()) {
             const auto *ancestor = static_cast<const DOMElement *>(at);
             if (!sameName(ancestor->getTagName(), name)) break;
             auto known = index->find(ParentKey{ancestor, Text(key)});
@@ -131,7 +131,7 @@ void recordAppendedPartition(const DOMElement *parent, const XMLCh *key, const X
     } catch (const std::bad_alloc &) {
         // An index that missed a partition cannot be trusted: drop it, the
         // next search builds a new one.
-        DOMDocument *document = parent->getOwnerDocument();
+        DOMDocument *document = partition->getOwnerDocument();
         delete static_cast<PartitionIndex *>(document->getUserData(kIndexKey));
         document->setUserData(kIndexKey, nullptr, nullptr);
     }

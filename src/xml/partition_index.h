@@ -5,8 +5,8 @@
 //
 // The index hangs on the document and is freed with it. It sees the
 // partitions that exist when a parent is first searched and those made
-// through appendIndexedPartition afterwards; partitions must not be added
-// to a searched parent in any other way.
+// through appendPartition or given a key through setPartitionKey afterwards;
+// partitions must not be added or re-keyed in any other way.
 #ifndef ZUNDO_XML_PARTITION_INDEX_H
 #define ZUNDO_XML_PARTITION_INDEX_H
 
@@ -23,9 +23,8 @@ XERCES_CPP_NAMESPACE_END
 xercesc::DOMElement *findIndexedPartition(const xercesc::DOMElement *parent, const XMLCh *key,
                                           const XMLCh *value, bool *failed);
 
-// Records a partition just appended as the last child of parent with
-// key = value.
-void recordAppendedPartition(const xercesc::DOMElement *parent, const XMLCh *key,
-                             const XMLCh *value, xercesc::DOMElement *partition);
+// Records that partition now carries key = value, having just been
+// appended or given a new value for its key.
+void recordPartitionKey(xercesc::DOMElement *partition, const XMLCh *key, const XMLCh *value);
 
 #endif

@@ -255,12 +255,20 @@ DOMElement *appendPartition(DOMElement *parent, const char *key, const char *val
         domFailure("findOrCreatePartition");
         return nullptr;
     }
-    if (setNamedAttribute(partition, key, value) != ZUNDO_OK) return nullptr;
+    return setPartitionKey(partition, key, value) == ZUNDO_OK ? partition : nullptr;
+}
+
+zundo_status_t setPartitionKey(DOMElement *partition, const char *key, const char *value) {
+    zundo_status_t status = setNamedAttribute(partition, key, value);
+    if (status != ZUNDO_OK) return status;
     WideText wideKey(key, false);
     WideText wideValue(value, true);
-    if (wideKey.get() != nullptr && wideValue.get() != nullptr)
-        recordAppendedPartition(parent, wideKey.get(), wideValue.get(), partition);
-    return partition;
+    if (wideKey.get() == nullptr || wideValue.get() == nullptr) {
+        traceOutOfMemory("setPartitionKey");
+        return ZUNDO_OUT_OF_MEMORY;
+    }
+    recordPartitionKey(partition, wideKey.get(), wideValue.get());
+    return ZUNDO_OK;
 }
 
 DOMElement *findOrCreatePartition(DOMElement *resource, const char *value, const char *key) {

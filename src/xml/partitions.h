@@ -44,6 +44,9 @@ xercesc::DOMElement *findOrCreatePartition(xercesc::DOMElement *resource, const 
 // indexed.
 xercesc::DOMElement *appendPartition(xercesc::DOMElement *parent, const char *key,
                                      const char *value);
+// Gives an existing partition a new value for its key (a RunIndex that
+// grows), the one way to re-key a partition of a document being written.
+zundo_status_t setPartitionKey(xercesc::DOMElement *partition, const char *key, const char *value);
 // With a null firstValue the second-level partition sits directly under
 // the resource and PartIDKeys becomes secondKey alone.
 xercesc::DOMElement *findOrCreateSubPartition(xercesc::DOMElement *resource, const char *firstKey,

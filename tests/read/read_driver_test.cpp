@@ -159,7 +159,9 @@ TEST(ReadDriver, TheLinkPoolResetsCopiesAndRecordsProcesses) {
     EXPECT_EQ(nullptr, findProcessName(env, 2));
 }
 
-TEST(ReadDriver, ResourcesWithoutAReaderAreSkipped) {
+// Unknown elements in the pools are passed over; the resources around them
+// are read as usual.
+TEST(ReadDriver, UnknownResourcesAreSkipped) {
     std::string resources =
         "<FileSpec ID=\"F0\" URL=\"a.pdf\"/><Media ID=\"M0\"/><Mystery ID=\"X\"><Deep/></Mystery>"
         "<DigitalPrintingParams ID=\"DPP0\" Collate=\"Sheet\"/><Device ID=\"D0\"/>"
@@ -167,7 +169,7 @@ TEST(ReadDriver, ResourcesWithoutAReaderAreSkipped) {
     ReadTicket read(jdfTicket("<Unknown/>\n" + pools(resources, "<ComponentLink rRef=\"C\"/>") +
                               "<AuditPool><Created Author=\"x\"/></AuditPool>\n"));
     ASSERT_EQ(ZUNDO_OK, read.result.status);
-    EXPECT_EQ(0, intOf(read.job(), "job-collate", 0));
+    EXPECT_EQ(2, intOf(read.job(), "job-collate", 0));
 }
 
 TEST(ReadDriver, DeclarationMustSayXml10InUtf8) {

@@ -44,10 +44,12 @@ TEST(WriteTicket, EmptyJobGivesTheFixedRoot) {
     EXPECT_EQ(utf8(comment->getTextContent()), "1.4.13 Drop 382");
 
     // In pool order, whatever the order of creation: the one document's
-    // LayoutElement and RunList come first.
+    // LayoutElement and RunList come first; the Component carries the
+    // default copy count.
     EXPECT_EQ(childNames(written.pool("ResourcePool")),
               (std::vector<std::string>{"LayoutElement", "RunList", "LayoutPreparationParams",
-                                        "InterpretingParams", "DigitalPrintingParams"}));
+                                        "InterpretingParams", "Component",
+                                        "DigitalPrintingParams"}));
     const char *const ids[] = {"LPP0", "IIP0", "DPP0"};
     const char *const indexes[] = {"0", "2", "4"};
     for (int i = 0; i < 3; ++i) {
