@@ -95,4 +95,9 @@ extern const zundo_string_pair_s noStrings[];
 extern const zundo_string_pair_s fileFormatMimeTypes[];
 extern const zundo_string_pair_s fileFormatVersions[];
 
+// Tables of values that no attribute conversion row lists.
+extern const zundo_enum_pair_s baseScreenValues[];      // screening and calibration
+extern const zundo_enum_pair_s deliveryMethodValues[];  // job-delivery-method
+extern const zundo_enum_pair_s startPageDescriptionValues[];
+
 #endif

@@ -2,10 +2,8 @@
 // ResourceLinkPool.
 #include "read/component_reader.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <new>
-#include <unordered_map>
 #include <vector>
 
 #include "enums/value_tables.h"
@@ -113,60 +111,20 @@ void readFinishingLink(xercesc::DOMElement *link, zundo_int_object_s *job,
     if (component != nullptr) setFirstLocationName(component, finishing, process.outputBin);
 }
 
-// The job's page ranges by their bounds, read once for all partitions of a
-// printed Component: findPageRangeObject reads the whole list on every
-// call, and a Component holds one partition per page range with a bin.
-class JobPageRanges {
-public:
-    explicit JobPageRanges(zundo_int_object_s *job) : job_(job) {
-        zundo_int_attribute_s *list = get(job, "job-page-ranges");
-        while (hasNextValue(list)) {
-            auto *pageRange = static_cast<zundo_int_object_s *>(nextValue(list));
-            zundo_int_attribute_s *pages = get(pageRange, "page-range-pages");
-            // The first page range with the bounds is the one findPageRangeObject gives.
-            if (hasNextValue(pages)) {
-                const auto *range = static_cast<const zundo_range_s *>(nextValue(pages));
-                byBounds_.emplace(boundsKey(getLower(range), getUpper(range)), pageRange);
-            }
-            destroyAttribute(pages);
-        }
-        destroyAttribute(list);
-    }
-
-    // The page range of the RunIndex, made when the job has none; null
-    // when it cannot be made.
-    zundo_int_object_s *find(const char *runIndex) {
-        const char *tilde = std::strchr(runIndex, '~');
-        int lower = std::atoi(runIndex);
-        unsigned long long key = boundsKey(lower, tilde != nullptr ? std::atoi(tilde + 1) : lower);
-        auto found = byBounds_.find(key);
-        if (found != byBounds_.end()) return found->second;
-        zundo_int_object_s *pageRange = nullptr;
-        if (findPageRangeObject(&pageRange, job_, runIndex) != ZUNDO_OK) return nullptr;
-        byBounds_.emplace(key, pageRange);
-        return pageRange;
-    }
-
-private:
-    static unsigned long long boundsKey(int lower, int upper) {
-        return static_cast<unsigned long long>(static_cast<unsigned>(lower)) << 32 |
-               static_cast<unsigned>(upper);
-    }
-
-    zundo_int_object_s *job_;
-    std::unordered_map<unsigned long long, zundo_int_object_s *> byBounds_;
-};
-
-zundo_int_object_s *pageRangeOf(xercesc::DOMElement *partition, JobPageRanges *pageRanges) {
+// The page range of the partition's RunIndex, made when the job has none;
+// null when it cannot be made.
+zundo_int_object_s *pageRangeOf(xercesc::DOMElement *partition, PageRangeIndex *pageRanges) {
     ElementAttribute runIndex(partition, "RunIndex");
-    return runIndex.value() != nullptr ? pageRanges->find(runIndex.value()) : nullptr;
+    zundo_int_object_s *pageRange = nullptr;
+    if (runIndex.value() != nullptr) pageRanges->find(runIndex.value(), &pageRange);
+    return pageRange;
 }
 
 // A partition of the printed Component: the bin of its page range, or the
 // bin of unused tabs and the bin of the first page range among its own
 // partitions.
 void readOutputBinPartition(xercesc::DOMElement *partition, zundo_int_object_s *job,
-                            JobPageRanges *pageRanges) {
+                            PageRangeIndex *pageRanges) {
     zundo_int_object_s *pageRange = pageRangeOf(partition, pageRanges);
     if (pageRange != nullptr) {
         setFirstLocationName(partition, pageRange, "page-range-output-bin-name");
@@ -187,7 +145,7 @@ void readPrintedComponentBins(xercesc::DOMElement *link, zundo_int_object_s *job
     xercesc::DOMElement *component = findReferencedComponent(link);
     if (component == nullptr) return;
     try {
-        JobPageRanges pageRanges(job);
+        PageRangeIndex pageRanges(job);
         for (ElementEntry *child : ChildElements(component)) {
             if (std::strcmp(child->name, "Location") == 0)
                 setLocationName(child->element, job, "job-output-bin-name");
@@ -200,14 +158,6 @@ void readPrintedComponentBins(xercesc::DOMElement *link, zundo_int_object_s *job
 }
 
 }  // namespace
-
-zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *name) {
-    zundo_int_attribute_s *attribute = get(object, name);
-    auto *first =
-        hasNextValue(attribute) ? static_cast<zundo_int_object_s *>(nextValue(attribute)) : nullptr;
-    destroyAttribute(attribute);
-    return first;
-}
 
 zundo_status_t readComponentResource(xercesc::DOMElement *resource, zundo_int_object_s *ticket,
                                      IdElement **mediaList) {

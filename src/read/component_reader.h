@@ -19,8 +19,4 @@ zundo_status_t readComponentResource(xercesc::DOMElement *resource, zundo_int_ob
 // ZUNDO_OK.
 zundo_status_t readComponentLinkElement(xercesc::DOMElement *link, zundo_int_object_s *ticket);
 
-// The first value of an object attribute, still owned by `object`; null
-// when it has none.
-zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *name);
-
 #endif

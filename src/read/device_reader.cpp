@@ -109,15 +109,9 @@ const AttributeRow kFontPolicyRows[] = {
 
 const zundo_enum_pair_s kAccuracyModeValues[] = {{1, "High"}, {2, "Standard"}, {-1, nullptr}};
 
-const zundo_enum_pair_s kBaseScreenValues[] = {
-    {1, "150Dot"},  {2, "168Dot"},   {3, "168Line"},   {4, "175Dot"},
-    {5, "175Line"}, {6, "200Dot"},   {7, "200Line"},   {8, "270Dot"},
-    {9, "270Line"}, {10, "300Dot"},  {11, "300Line"},  {12, "FMScreen"},
-    {13, "Hybrid"}, {14, "InterferenceReduction"},     {-1, nullptr}};
-
 const AttributeRow kCalibrationRows[] = {
     {"AccuracyMode", kEnumeration, "calibration-type-accuracy-mode", kAccuracyModeValues},
-    {"BaseScreen", kEnumeration, "calibration-type-base-screen", kBaseScreenValues},
+    {"BaseScreen", kEnumeration, "calibration-type-base-screen", baseScreenValues},
     {"CreatedTimeStamp", kDateTime, "calibration-type-created-time-stamp", nullptr},
     {"ExtraInfo", kWordList, "calibration-type-extra-info", nullptr},
     {"LastCalibrationTimeStamp", kDateTime, "calibration-type-last-calibration-time-stamp",

@@ -59,11 +59,6 @@ const PrintingRoles &rolesOf(const char *type) {
     return kPageRangeRoles;
 }
 
-const zundo_enum_pair_s kDeliveryMethodValues[] = {
-    {1, "Archive"},           {2, "Proof"},           {3, "PrintLater"},        {4, "PrintNow"},
-    {5, "PrintNowAndArchive"}, {6, "PrintNowAndSave"}, {7, "PrintLaterAndSave"}, {8, "Save"},
-    {-1, nullptr}};
-
 enum Conversion { kText, kBoolean, kEnumeration };
 
 // An attribute set as the role of the object, or under a fixed name
@@ -83,7 +78,7 @@ const PrintingAttribute kAttributes[] = {
     {"PrintingType", kEnumeration, jobPrintingTypeValues, nullptr, "job-printing-type"},
     {"morvellan:CarriageControlType", kEnumeration, jobCarriageControlTypeValues,
      &PrintingRoles::carriageControl, nullptr},
-    {"morvellan:DeliveryMethod", kEnumeration, kDeliveryMethodValues, nullptr,
+    {"morvellan:DeliveryMethod", kEnumeration, deliveryMethodValues, nullptr,
      "job-delivery-method"},
     {"morvellan:EjectToFrontFace", kBoolean, nullptr, &PrintingRoles::ejectToFrontFace, nullptr},
     {"morvellan:TableReferenceChars", kBoolean, nullptr, &PrintingRoles::tableReferenceChars,

@@ -9,16 +9,15 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <map>
 #include <memory>
 #include <new>
 #include <string>
 #include <unordered_map>
-#include <utility>
 
 #include "enums/value_tables.h"
 #include "read/component_reader.h"
 #include "read/finishing_reader.h"
+#include "read/partition_walk.h"
 #include "read/reader_conversions.h"
 #include "xml/index_lists.h"
 #include "xml/jdf_node.h"
@@ -42,46 +41,13 @@ const zundo_enum_pair_s kCoverMatrixEdges[] = {
 // sides of a media.
 const zundo_enum_pair_s *const kCoverSides = mediaImagableSideValues;
 
-// The page range a Part or partition names, by the bounds of the page
-// token ("4" is 4 ~ 4, "1~3" is 1 ~ 3).
-std::pair<int, int> boundsOfToken(const char *token) {
-    const char *tilde = std::strchr(token, '~');
-    int lower = std::atoi(token);
-    return {lower, tilde != nullptr ? std::atoi(tilde + 1) : lower};
+// The first value of a finishing attribute of the job's page range that
+// the token names; page ranges are never made here.
+zundo_int_object_s *pageRangeFinishing(const PageRangeIndex &pageRanges, const char *token,
+                                       const char *attribute) {
+    zundo_int_object_s *pageRange = pageRanges.lookup(token);
+    return pageRange != nullptr ? firstObjectValue(pageRange, attribute) : nullptr;
 }
-
-// The job's page ranges by their bounds, read at the first lookup; a token
-// that names no page range finds nothing (none is made).
-class JobPageRangeIndex {
-public:
-    explicit JobPageRangeIndex(zundo_int_object_s *job) : job_(job) {}
-
-    // The first value of the finishing attribute of the token's page range.
-    zundo_int_object_s *finishingOf(const char *token, const char *attribute) {
-        if (job_ != nullptr) load();
-        auto found = byBounds_.find(boundsOfToken(token));
-        return found != byBounds_.end() ? firstObjectValue(found->second, attribute) : nullptr;
-    }
-
-private:
-    void load() {
-        zundo_int_attribute_s *list = get(job_, "job-page-ranges");
-        job_ = nullptr;
-        while (hasNextValue(list)) {
-            auto *pageRange = static_cast<zundo_int_object_s *>(nextValue(list));
-            zundo_int_attribute_s *pages = get(pageRange, "page-range-pages");
-            if (hasNextValue(pages)) {
-                const auto *range = static_cast<const zundo_range_s *>(nextValue(pages));
-                byBounds_.emplace(std::make_pair(getLower(range), getUpper(range)), pageRange);
-            }
-            destroyAttribute(pages);
-        }
-        destroyAttribute(list);
-    }
-
-    zundo_int_object_s *job_;  // null once loaded
-    std::map<std::pair<int, int>, zundo_int_object_s *> byBounds_;
-};
 
 struct PageTokens {
     explicit PageTokens(const char *text) { parsePages(text, &tokens); }
@@ -228,7 +194,7 @@ const PageRangeEdge *pageRangeEdgeOf(const char *process) {
 }
 
 void readPartAmount(const xercesc::DOMElement *partAmount, zundo_int_object_s *coverBinding,
-                    const PageRangeEdge *pageRangeEdge, JobPageRangeIndex *pageRanges,
+                    const PageRangeEdge *pageRangeEdge, const PageRangeIndex *pageRanges,
                     int *edge) {
     ElementAttribute orientation(partAmount, "Orientation");
     if (orientation.value() != nullptr)
@@ -246,7 +212,7 @@ void readPartAmount(const xercesc::DOMElement *partAmount, zundo_int_object_s *c
         PageTokens split(runIndex);
         for (char **token = split.tokens; token != nullptr && *token != nullptr; ++token) {
             zundo_int_object_s *finishing =
-                pageRanges->finishingOf(*token, pageRangeEdge->pageRangeAttribute);
+                pageRangeFinishing(*pageRanges, *token, pageRangeEdge->pageRangeAttribute);
             if (finishing != nullptr)
                 setIntegerAttribute(finishing, pageRangeEdge->edgeAttribute, *edge);
         }
@@ -272,11 +238,11 @@ void addPageRangeFoldingComponentTypes(const xercesc::DOMElement *foldingParams,
         TokenTypes tokens;
         collectPageTokens(foldingParams, &tokens);
         matchComponentPartitions(component, &tokens);
-        JobPageRangeIndex pageRanges(job);
+        const PageRangeIndex pageRanges(job);
         for (const auto &token : tokens) {
             zundo_int_object_s *folding =
                 token.second != kNoComponentType
-                    ? pageRanges.finishingOf(token.first.c_str(), "page-range-folding")
+                    ? pageRangeFinishing(pageRanges, token.first.c_str(), "page-range-folding")
                     : nullptr;
             if (folding != nullptr)
                 setIntegerAttribute(folding, "folding-component-type", token.second);
@@ -295,7 +261,7 @@ zundo_status_t readFinishingAmounts(const xercesc::DOMElement *link, zundo_int_o
     // The edge of a PartAmount without Orientation is the one before it.
     int edge = 0;
     try {
-        JobPageRangeIndex pageRanges(job);
+        const PageRangeIndex pageRanges(job);
         for (ElementEntry *amountPool : ChildElements(link)) {
             if (!textIs(amountPool->name, "AmountPool")) continue;
             for (ElementEntry *partAmount : ChildElements(amountPool->element))

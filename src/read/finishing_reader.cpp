@@ -29,16 +29,6 @@ const zundo_enum_pair_s kBindingResources[] = {{2, "CoverApplicationParams"},
                                                {8, "WireCombBindingParams"},
                                                {-1, nullptr}};
 
-// 150Dot = 1 ... InterferenceReduction = 14.
-const zundo_enum_pair_s kBaseScreenValues[] = {{1, "150Dot"},   {2, "168Dot"},
-                                               {3, "168Line"},  {4, "175Dot"},
-                                               {5, "175Line"},  {6, "200Dot"},
-                                               {7, "200Line"},  {8, "270Dot"},
-                                               {9, "270Line"},  {10, "300Dot"},
-                                               {11, "300Line"}, {12, "FMScreen"},
-                                               {13, "Hybrid"},  {14, "InterferenceReduction"},
-                                               {-1, nullptr}};
-
 struct AttrListFree {
     void operator()(AttributeEntry **list) const { freeAttrList(list); }
 };
@@ -226,7 +216,7 @@ zundo_int_object_s *readScreenSelector(const xercesc::DOMElement *selector,
     if (defaults.locked != -1)
         setIntegerAttribute(screening, "screening-read-only", defaults.locked);
     if (defaults.baseScreens != nullptr)
-        setCodeList(screening, "screening-base-screens", defaults.baseScreens, kBaseScreenValues);
+        setCodeList(screening, "screening-base-screens", defaults.baseScreens, baseScreenValues);
     double frequency = 0.0;
     if (!convertStringToDouble(ElementAttribute(selector, "Frequency").value(), &frequency))
         frequency = 0.0;

@@ -257,11 +257,8 @@ void applyStepRepeat(zundo_int_object_s *object, const LayoutRoles &roles, const
 }
 
 void markRetainNotPrintedFirst(zundo_int_object_s *object) {
-    zundo_int_attribute_s *retain = get(object, "job-retain");
-    if (hasNextValue(retain))
-        setIntegerAttribute(static_cast<zundo_int_object_s *>(nextValue(retain)),
-                            "retain-print-first", 0);
-    destroyAttribute(retain);
+    if (zundo_int_object_s *retain = firstObjectValue(object, "job-retain"))
+        setIntegerAttribute(retain, "retain-print-first", 0);
 }
 
 bool applyCodedAttribute(zundo_int_object_s *object, const LayoutRoles &roles,

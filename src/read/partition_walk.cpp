@@ -168,74 +168,6 @@ zundo_status_t makePageRange(zundo_int_object_s **out, PageBounds bounds) {
     return status == ZUNDO_OK ? newPageRange(out, range, nullptr) : status;
 }
 
-// The page ranges of one owner by their bounds during one walk step. The
-// owner's list is read once; page ranges made during the step join it in
-// one set when the step ends, in the order they were made.
-class PageRangeIndex {
-public:
-    explicit PageRangeIndex(zundo_int_object_s *owner)
-        : owner_(owner), listName_(pageRangeListName(owner)) {
-        zundo_int_attribute_s *list = get(owner, listName_);
-        while (hasNextValue(list)) {
-            auto *pageRange = static_cast<zundo_int_object_s *>(nextValue(list));
-            PageBounds bounds{};
-            // The first page range with the bounds is the one handed out.
-            if (pageRangeBounds(pageRange, &bounds))
-                byBounds_.emplace(boundsKey(bounds), pageRange);
-        }
-        destroyAttribute(list);
-    }
-    ~PageRangeIndex() { commit(); }
-    PageRangeIndex(const PageRangeIndex &) = delete;
-    PageRangeIndex &operator=(const PageRangeIndex &) = delete;
-
-    // The page range of the token, made when the owner has none; *out stays
-    // null when it cannot be made.
-    zundo_status_t find(const char *token, zundo_int_object_s **out) {
-        zundo_trace(">> Entering findPageRangeObject \n");
-        PageBounds bounds = boundsOfToken(token);
-        auto found = byBounds_.find(boundsKey(bounds));
-        zundo_status_t status = ZUNDO_OK;
-        *out = found != byBounds_.end() ? found->second : nullptr;
-        if (*out == nullptr) {
-            made_.push_back(nullptr);
-            status = makePageRange(&made_.back(), bounds);
-            if (status == ZUNDO_OK) {
-                *out = made_.back();
-                byBounds_.emplace(boundsKey(bounds), *out);
-            } else {
-                made_.pop_back();
-            }
-        }
-        zundo_trace("<< Leaving findPageRangeObject \n");
-        return status;
-    }
-
-    // Appends the page ranges made so far to the owner's list. When the
-    // owner refuses them they are destroyed.
-    zundo_status_t commit() {
-        if (made_.empty()) return ZUNDO_OK;
-        zundo_int_attribute_s *list = get(owner_, listName_);
-        zundo_status_t status = list != nullptr ? ZUNDO_OK : ZUNDO_NOT_FOUND;
-        for (size_t i = 0; status == ZUNDO_OK && i < made_.size(); ++i)
-            status = addValue(list, made_[i]);
-        if (status == ZUNDO_OK) status = set(owner_, list);
-        if (status != ZUNDO_OK) {
-            zundo_trace("call to set failed for %s: error code %d \n", listName_, status);
-            for (zundo_int_object_s *pageRange : made_) destroy(pageRange);
-        }
-        destroyAttribute(list);
-        made_.clear();
-        return status;
-    }
-
-private:
-    zundo_int_object_s *owner_;
-    const char *listName_;
-    std::unordered_map<unsigned long long, zundo_int_object_s *> byBounds_;
-    std::vector<zundo_int_object_s *> made_;
-};
-
 // One page-range step of the walk: every page token of the run index list
 // to its page range of the owner. A token that repeats within the step
 // names the same page range with the same filters, so the setter is called
@@ -370,6 +302,58 @@ zundo_status_t walkDocuments(xercesc::DOMElement *resource, zundo_int_object_s *
 }
 
 }  // namespace
+
+PageRangeIndex::PageRangeIndex(zundo_int_object_s *owner)
+    : owner_(owner), listName_(pageRangeListName(owner)) {
+    zundo_int_attribute_s *list = get(owner, listName_);
+    while (hasNextValue(list)) {
+        auto *pageRange = static_cast<zundo_int_object_s *>(nextValue(list));
+        PageBounds bounds{};
+        // The first page range with the bounds is the one handed out.
+        if (pageRangeBounds(pageRange, &bounds)) byBounds_.emplace(boundsKey(bounds), pageRange);
+    }
+    destroyAttribute(list);
+}
+
+zundo_int_object_s *PageRangeIndex::lookup(const char *token) const {
+    auto found = byBounds_.find(boundsKey(boundsOfToken(token)));
+    return found != byBounds_.end() ? found->second : nullptr;
+}
+
+zundo_status_t PageRangeIndex::find(const char *token, zundo_int_object_s **out) {
+    zundo_trace(">> Entering findPageRangeObject \n");
+    zundo_status_t status = ZUNDO_OK;
+    *out = lookup(token);
+    if (*out == nullptr) {
+        PageBounds bounds = boundsOfToken(token);
+        made_.push_back(nullptr);
+        status = makePageRange(&made_.back(), bounds);
+        if (status == ZUNDO_OK) {
+            *out = made_.back();
+            byBounds_.emplace(boundsKey(bounds), *out);
+        } else {
+            made_.pop_back();
+        }
+    }
+    zundo_trace("<< Leaving findPageRangeObject \n");
+    return status;
+}
+
+zundo_status_t PageRangeIndex::commit() {
+    if (made_.empty()) return ZUNDO_OK;
+    zundo_int_attribute_s *list = get(owner_, listName_);
+    zundo_status_t status = list != nullptr ? ZUNDO_OK : ZUNDO_NOT_FOUND;
+    for (size_t i = 0; status == ZUNDO_OK && i < made_.size(); ++i)
+        status = addValue(list, made_[i]);
+    if (status == ZUNDO_OK) status = set(owner_, list);
+    if (status != ZUNDO_OK) {
+        zundo_trace("call to set failed for %s: error code %d \n", listName_, status);
+        for (zundo_int_object_s *pageRange : made_) destroy(pageRange);
+    }
+    destroyAttribute(list);
+    made_.clear();
+    return status;
+}
 
 zundo_status_t readResource(xercesc::DOMElement *resource, zundo_int_object_s *ticket,
                             IdElement **mediaList, LevelSetter setter) {

@@ -5,6 +5,9 @@
 #ifndef ZUNDO_READ_PARTITION_WALK_H
 #define ZUNDO_READ_PARTITION_WALK_H
 
+#include <unordered_map>
+#include <vector>
+
 #include "xml/jdf_lists.h"
 
 // Applies the entries that partitionMatches(docFilter, runFilter, entry's
@@ -39,5 +42,31 @@ zundo_status_t findPageRangeObject(zundo_int_object_s **out, zundo_int_object_s 
 // range. ZUNDO_NOT_FOUND for a null object, name or text.
 zundo_status_t readAndSetMultiplePageRangesAttribute(zundo_int_object_s **object, const char *name,
                                                      const char *text);
+
+// The page ranges of a job or document by their bounds, for readers that
+// look up many page tokens: the owner's list is read once. Page ranges that
+// find() makes join the owner's list, in the order made, at commit() or
+// when the index goes.
+class PageRangeIndex {
+public:
+    explicit PageRangeIndex(zundo_int_object_s *owner);
+    ~PageRangeIndex() { commit(); }
+    PageRangeIndex(const PageRangeIndex &) = delete;
+    PageRangeIndex &operator=(const PageRangeIndex &) = delete;
+
+    // The page range of the token ("4", "1~3"), or null; none is made.
+    zundo_int_object_s *lookup(const char *token) const;
+    // The page range of the token, made when the owner has none; *out stays
+    // null when it cannot be made.
+    zundo_status_t find(const char *token, zundo_int_object_s **out);
+    // When the owner refuses the page ranges made, they are destroyed.
+    zundo_status_t commit();
+
+private:
+    zundo_int_object_s *owner_;
+    const char *listName_;
+    std::unordered_map<unsigned long long, zundo_int_object_s *> byBounds_;
+    std::vector<zundo_int_object_s *> made_;
+};
 
 #endif

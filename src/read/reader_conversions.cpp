@@ -245,3 +245,11 @@ void replaceWithReferencedMedia(const xercesc::DOMElement *mediaRef, IdElement *
     if (*media != nullptr) destroy(*media);
     *media = copy;
 }
+
+zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *name) {
+    zundo_int_attribute_s *attribute = get(object, name);
+    auto *first =
+        hasNextValue(attribute) ? static_cast<zundo_int_object_s *>(nextValue(attribute)) : nullptr;
+    destroyAttribute(attribute);
+    return first;
+}

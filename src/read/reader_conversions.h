@@ -103,6 +103,10 @@ bool textIs(const char *text, const char *expected);
 void replaceWithReferencedMedia(const xercesc::DOMElement *mediaRef, IdElement **mediaList,
                                 zundo_int_object_s **media);
 
+// The first value of an object attribute, still owned by `object`; null
+// when it has none.
+zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *name);
+
 // Adds one value to a multi-valued attribute of the object: the current
 // values are fetched, the value added and the whole set back. An object or
 // value object passes to the object; when it cannot be added it is

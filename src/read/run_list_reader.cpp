@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "enums/value_tables.h"
 #include "read/device_reader.h"
 #include "read/finishing_reader.h"
 #include "read/page_list_reader.h"
@@ -25,9 +26,6 @@ struct RunPages {
     int last;
 };
 typedef std::vector<RunPages> RunPageList;
-
-const zundo_enum_pair_s kStartPageDescriptions[] = {
-    {1, "Cover"}, {2, "DesignationSheet"}, {-1, nullptr}};
 
 enum { kBackSide = 1, kFrontSide = 2 };
 const int kTrailerSheet = 1;
@@ -195,7 +193,7 @@ zundo_status_t addStartPage(zundo_int_object_s *owner, const char *attribute, co
             return status;
         }
         if (description != nullptr)
-            setDescription(startPage, codeForJDFName(kStartPageDescriptions, description));
+            setDescription(startPage, codeForJDFName(startPageDescriptionValues, description));
         status = appendAttributeValue(owner, attribute, startPage);
         if (status == ZUNDO_OK) return status;
         zundo_trace("call to addValue failed for %s: internal error \n", attribute);

@@ -44,11 +44,6 @@ struct CascadeStep {
     const ObjectValueRow *rows;
 };
 
-const zundo_enum_pair_s kDeliveryMethodValues[] = {
-    {1, "Archive"},          {2, "Proof"},           {3, "PrintLater"},        {4, "PrintNow"},
-    {5, "PrintNowAndArchive"}, {6, "PrintNowAndSave"}, {7, "PrintLaterAndSave"}, {8, "Save"},
-    {-1, nullptr}};
-
 const ObjectValueRow kSidesRows[] = {
     {"sides", "Sides", sidesValues, getLayoutPreparationParams},
     {nullptr, nullptr, nullptr, nullptr},
@@ -76,7 +71,7 @@ const ObjectValueRow kRotationRows[] = {
 // printing parameters take all but the PIN, which belongs to the printed
 // output, and the snapshot name, which names the node.
 const ObjectValueRow kProcessingRows[] = {
-    {"job-delivery-method", "morvellan:DeliveryMethod", kDeliveryMethodValues,
+    {"job-delivery-method", "morvellan:DeliveryMethod", deliveryMethodValues,
      getDigitalPrintingParams},
     {"job-carriage-control-type", "morvellan:CarriageControlType", jobCarriageControlTypeValues,
      getDigitalPrintingParams},

@@ -25,16 +25,6 @@ const int kTrappingNone = 1;
 // A trapping without a type traps.
 const int kTrappingTypeUnset = 0;
 
-// 1 "150Dot" ... 14 "InterferenceReduction".
-const zundo_enum_pair_s kBaseScreenValues[] = {{1, "150Dot"},   {2, "168Dot"},
-                                               {3, "168Line"},  {4, "175Dot"},
-                                               {5, "175Line"},  {6, "200Dot"},
-                                               {7, "200Line"},  {8, "270Dot"},
-                                               {9, "270Line"},  {10, "300Dot"},
-                                               {11, "300Line"}, {12, "FMScreen"},
-                                               {13, "Hybrid"},  {14, "InterferenceReduction"},
-                                               {-1, nullptr}};
-
 // The parameter resource of one finishing object and the partition its
 // values go to.
 struct FinishingTarget {
@@ -188,7 +178,7 @@ void writeScreenSelector(JDFWriteContext *ctx, zundo_int_object_s *screening,
     }
     if (!state->baseScreensWritten && objectHasValue(screening, "screening-base-screens")) {
         put(target, "morvellan:BaseScreens",
-            joinedNames(screening, "screening-base-screens", kBaseScreenValues).c_str());
+            joinedNames(screening, "screening-base-screens", baseScreenValues).c_str());
         state->baseScreensWritten = true;
     }
     FetchedAttribute productId(screening, "screening-product-id");

@@ -20,9 +20,6 @@ const int kCoverContent = 3;    // "insert-sheet-content": a cover is always pla
 const int kNoContent = 4;       // never placed in runs
 const int kBackSide = 1;        // start-page sheet side
 
-const zundo_enum_pair_s kStartPageDescriptions[] = {
-    {1, "Cover"}, {2, "DesignationSheet"}, {-1, nullptr}};
-
 // "doc" and any int.
 const size_t kDocumentIdSize = 16;
 
@@ -121,7 +118,7 @@ void splitAtStartPage(DocumentRuns *runs, const zundo_start_page_s *startPage) {
 void writeFillSheet(xercesc::DOMElement *run, const zundo_start_page_s *startPage) {
     xercesc::DOMElement *sheet = appendChildTraced(run, "InsertSheet");
     if (sheet == nullptr) return;
-    const char *description = jdfNameForCode(kStartPageDescriptions, getDescription(startPage));
+    const char *description = jdfNameForCode(startPageDescriptionValues, getDescription(startPage));
     if (description != nullptr) setAttributeTraced(sheet, "DescriptiveName", description);
     setAttributeTraced(sheet, "SheetUsage",
                        getSheetSide(startPage) == kBackSide ? "FillForceBack" : "FillForceFront");
