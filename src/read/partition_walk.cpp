@@ -271,6 +271,25 @@ private:
     std::unordered_map<std::string, RunLevel> runLevels_;
 };
 
+// Every text of up to kIndexDigits characters inside the values: the
+// document indexes the values name.
+const size_t kIndexDigits = 10;
+std::unordered_set<std::string> textsInside(const std::vector<const char *> &values) {
+    std::unordered_set<std::string> texts;
+    for (const char *value : values) {
+        size_t length = std::strlen(value);
+        for (size_t start = 0; start < length; ++start)
+            for (size_t count = 1; count <= kIndexDigits && start + count <= length; ++count)
+                texts.emplace(value + start, count);
+    }
+    return texts;
+}
+
+// A document is walked when a DocIndex value contains its index as text:
+// "10" names document 1 and document 0 too, and the setter applies only
+// the entries whose DocIndex is the index itself. The walk runs once per
+// document however many values name it, so that list values (insert
+// sheets, marks) are not added again for each.
 zundo_status_t walkDocuments(xercesc::DOMElement *resource, zundo_int_object_s *job,
                              IdElement **mediaList, LevelSetter setter) {
     zundo_int_object_s **documents = getDocuments(job);
@@ -278,25 +297,22 @@ zundo_status_t walkDocuments(xercesc::DOMElement *resource, zundo_int_object_s *
     zundo_status_t status =
         levels.load(documents != nullptr && documents[0] != nullptr ? documents[0] : nullptr);
     if (status != ZUNDO_OK) return status;
+    std::unordered_set<std::string> named = textsInside(levels.docIndexValues());
     for (int i = 0; documents != nullptr && documents[i] != nullptr; ++i) {
         char docFilter[16];
         std::snprintf(docFilter, sizeof docFilter, "%i", i);
-        // "10" names document 1 and document 0 too; the setter applies only
-        // the entries whose DocIndex is docFilter itself.
-        for (const char *value : levels.docIndexValues()) {
-            if (std::strstr(value, docFilter) == nullptr) continue;
-            zundo_int_object_s *document = documents[i];
-            const EntrySelection *entries = levels.docIndexEntries(docFilter);
-            status = setter(&document, entries != nullptr ? entries->attrList() : kNoAttrs,
-                            entries != nullptr ? entries->elementList() : kNoElements, docFilter,
-                            nullptr, mediaList);
-            RunLevel *level = levels.runLevel(docFilter);
-            IndexList runIndexList;
-            zundo_status_t listed = documentRunIndexList(level, docFilter, &runIndexList);
-            if (listed != ZUNDO_OK) return listed;
-            status = walkPageRanges(level, runIndexList.get(), documents[i], mediaList, docFilter,
-                                    setter, status);
-        }
+        if (named.count(docFilter) == 0) continue;
+        zundo_int_object_s *document = documents[i];
+        const EntrySelection *entries = levels.docIndexEntries(docFilter);
+        status = setter(&document, entries != nullptr ? entries->attrList() : kNoAttrs,
+                        entries != nullptr ? entries->elementList() : kNoElements, docFilter,
+                        nullptr, mediaList);
+        RunLevel *level = levels.runLevel(docFilter);
+        IndexList runIndexList;
+        zundo_status_t listed = documentRunIndexList(level, docFilter, &runIndexList);
+        if (listed != ZUNDO_OK) return listed;
+        status = walkPageRanges(level, runIndexList.get(), documents[i], mediaList, docFilter,
+                                setter, status);
     }
     return status;
 }

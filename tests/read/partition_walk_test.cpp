@@ -96,12 +96,11 @@ std::vector<std::string> walk(const WalkTicket &ticket, const std::string &xml) 
     return calls;
 }
 
-// Document i takes each DocIndex value that contains i's digits; the
-// setter applies only the partition whose DocIndex is i itself.
+// Document i is walked, once, when a DocIndex value contains i's digits;
+// the setter applies only the partition whose DocIndex is i itself.
 TEST(PartitionWalk, DocIndexValuesNameDocumentsBySubstring) {
-    WalkTicket ticket(2);
-    EXPECT_EQ((std::vector<std::string>{"job|-|-|", "doc0|0|-| A=zero", "doc0|0|-| A=zero",
-                                        "doc1|1|-|"}),
+    WalkTicket ticket(3);
+    EXPECT_EQ((std::vector<std::string>{"job|-|-|", "doc0|0|-| A=zero", "doc1|1|-|"}),
               walk(ticket, "<DigitalPrintingParams ID=\"D\" PartIDKeys=\"DocIndex\">"
                            "<DigitalPrintingParams DocIndex=\"0\" A=\"zero\"/>"
                            "<DigitalPrintingParams DocIndex=\"10\" A=\"ten\"/>"
