@@ -10,6 +10,7 @@
 #include "catalogue/type_names.h"
 #include "enums/value_tables.h"
 #include "read/insert_sheet_reader.h"
+#include "read/marks_reader.h"
 #include "read/partition_walk.h"
 #include "read/reader_conversions.h"
 #include "xml/index_lists.h"
@@ -381,6 +382,7 @@ void readCellPartition(xercesc::DOMElement *partition, zundo_int_object_s *job,
 // setter takes them for that page range.
 void readPageRangePartition(xercesc::DOMElement *partition, zundo_int_object_s *pageRange,
                             const char *runIndex, IdElement **mediaList) {
+    readMarks(partition, pageRange, "page-range-marks");
     ChildElements children(partition);
     for (ElementEntry *child : children) {
         if (std::strcmp(child->name, "PageCell") != 0) continue;
@@ -410,6 +412,7 @@ zundo_status_t readLayoutPreparationParamsResource(xercesc::DOMElement *resource
     zundo_status_t status = readResource(resource, ticket, mediaList, setLPAttrsToObject);
     zundo_int_object_s *job = getJob(ticket);
     readPageRangeLayouts(resource, job, mediaList);
+    readMarks(resource, job, "job-marks");
     readCommentUnits(resource, job, "CreepValue", "job-number-up-creep-units");
     readCommentUnits(resource, job, "SurfaceContentsBox", "job-number-up-scb-units");
     readCommentUnits(resource, job, "ImplicitGutter", "job-number-up-gutter-units");
@@ -431,6 +434,7 @@ zundo_status_t setLPAttrsToObject(zundo_int_object_s **object, AttributeEntry *c
 
 void readPageCell(xercesc::DOMElement *pageCell, zundo_int_object_s *pageCellInfo) {
     zundo_trace(">> Entering readPageCell \n");
+    readMarks(pageCell, pageCellInfo, "page-cell-marks");
     readCommentUnits(pageCell, pageCellInfo, "ClipBox", "page-cell-clip-box-units");
     readCommentUnits(pageCell, pageCellInfo, "TrimSize", "page-cell-trim-size-units");
     setCodeFromAttribute(pageCellInfo, "page-cell-rotation", pageCell, "Rotate",

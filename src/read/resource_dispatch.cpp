@@ -8,14 +8,20 @@
 #include <memory>
 #include <new>
 
+#include "read/audit_pool_reader.h"
+#include "read/colorant_reader.h"
+#include "read/colour_conversion_reader.h"
 #include "read/component_reader.h"
+#include "read/customer_info_reader.h"
 #include "read/device_reader.h"
 #include "read/digital_printing_reader.h"
 #include "read/finishing_reader.h"
 #include "read/job_node_readers.h"
 #include "read/layout_element_reader.h"
 #include "read/layout_preparation_reader.h"
+#include "read/marks_reader.h"
 #include "read/media_reader.h"
+#include "read/rendering_reader.h"
 #include "read/run_list_reader.h"
 #include "zundo_trace.h"
 
@@ -35,6 +41,11 @@ zundo_status_t collectMedia(xercesc::DOMElement *resource, const char *,
 zundo_status_t readNodeInfo(xercesc::DOMElement *resource, const char *,
                             ResourceReadContext *context) {
     return readNodeInfoResource(resource, context->ticket);
+}
+
+zundo_status_t readAuditPool(xercesc::DOMElement *pool, const char *,
+                             ResourceReadContext *context) {
+    return getAuditPoolElement(pool, context->ticket, context->mediaList);
 }
 
 zundo_status_t readLayoutElement(xercesc::DOMElement *resource, const char *,
@@ -101,28 +112,28 @@ const ResourceReaderRow kLayoutPassReaders[] = {
 const size_t kLayoutPassReaderCount = sizeof(kLayoutPassReaders) / sizeof(ResourceReaderRow);
 
 const ResourceReaderRow kColourPassReaders[] = {
-    {"ColorSpaceConversionParams", nullptr, false},
-    {"ColorantControl", nullptr, false},
+    {"ColorSpaceConversionParams", readColorSpaceConversionResource, false},
+    {"ColorantControl", readForTicket<readColorantControl>, false},
 };
 const size_t kColourPassReaderCount = sizeof(kColourPassReaders) / sizeof(ResourceReaderRow);
 
 const ResourceReaderRow kParameterPassReaders[] = {
     {"Component", readComponent, false},
     {"CoverApplicationParams", readFinishingResource, false},
-    {"CustomerInfo", nullptr, false},
+    {"CustomerInfo", readForTicket<getCustomerInfoElement>, false},
     {"Device", readForTicket<readDeviceResource>, true},
     {"DigitalPrintingParams", readDigitalPrintingParams, false},
     {"FoldingParams", readFinishingResource, false},
     {"FontPolicy", readForTicket<readFontPolicyResource>, false},
     {"HoleMakingParams", readFinishingResource, false},
-    {"Ink", nullptr, false},
+    {"Ink", readForTicket<readInkResource>, false},
     {"InterpretingParams", readForTicket<readMorvellanInterpretingParamsResource>, false},
-    {"Layout", nullptr, false},
+    {"Layout", readForTicket<readLayoutResource>, false},
     {"LayoutPreparationParams", readLayoutPreparationParams, false},
     {"NodeInfo", readNodeInfo, false},
     {"PDLResourceAlias", readForTicket<readPDLResourceAliasResource>, false},
-    {"PrintCondition", nullptr, false},
-    {"RenderingParams", nullptr, false},
+    {"PrintCondition", readForTicket<readPrintConditionResource>, false},
+    {"RenderingParams", readForTicket<readRenderingParamsResource>, false},
     {"RingBindingParams", readFinishingResource, false},
     {"RunList", readRunListResource, false},
     {"ScreeningParams", readFinishingResource, false},
@@ -130,16 +141,16 @@ const ResourceReaderRow kParameterPassReaders[] = {
     {"StitchingParams", readFinishingResource, false},
     {"TrappingDetails", readFinishingResource, false},
     {"TrimmingParams", readFinishingResource, false},
-    {"UsageCounter", nullptr, false},
+    {"UsageCounter", readForTicket<readUsageCounterResource>, false},
     {"WireCombBindingParams", readFinishingResource, false},
     {"morvellan:CalibrationTypeParams", readCalibrationTypeParams, false},
     {"morvellan:RecordInfo", readForTicket<readRecordInfoResource>, false},
-    {"morvellan:StrippingParams", nullptr, false},
+    {"morvellan:StrippingParams", readForTicket<readStrippingParamsResource>, false},
 };
 const size_t kParameterPassReaderCount = sizeof(kParameterPassReaders) / sizeof(ResourceReaderRow);
 
 const ResourceReaderRow kNodePoolReaders[] = {
-    {"AuditPool", nullptr, false},
+    {"AuditPool", readAuditPool, false},
 };
 const size_t kNodePoolReaderCount = sizeof(kNodePoolReaders) / sizeof(ResourceReaderRow);
 

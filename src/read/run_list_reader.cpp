@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <new>
 #include <string>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "enums/value_tables.h"
 #include "read/device_reader.h"
 #include "read/finishing_reader.h"
+#include "read/marks_reader.h"
 #include "read/page_list_reader.h"
 #include "read/reader_conversions.h"
 #include "xml/index_lists.h"
@@ -136,6 +138,8 @@ struct SheetContent {
     int copies = 0;
     zundo_int_object_s *media = nullptr;
     zundo_int_object_s *folding = nullptr;
+    // The temporary sheet holding the marks of the last Layout or Sheet.
+    std::unique_ptr<zundo_int_object_s, void (*)(zundo_int_object_s *)> marks{nullptr, destroy};
 };
 
 // The sheet's folding from the attributes of a FoldingParams child; a
@@ -157,6 +161,7 @@ void readSheetLayout(const xercesc::DOMElement *layout, IdElement **mediaList,
                      SheetContent *content) {
     ChildElements children(layout);
     for (ElementEntry *child : children) takeReferencedMedia(child, mediaList, &content->media);
+    if (children.first("MarkObject") != nullptr) content->marks.reset(makeMarksInsertSheet(layout));
     if (ElementAttribute(layout, "PartIDKeys").value() == nullptr) return;
     for (ElementEntry *child : children) {
         if (!textIs(child->name, "Layout")) continue;
@@ -233,6 +238,7 @@ zundo_status_t addInsertSheet(zundo_int_object_s *owner, const char *attribute, 
         return status;
     }
     if (content.copies != 0) setIntegerAttribute(sheet, "insert-sheet-copies", content.copies);
+    copyInsertSheetMarks(content.marks.get(), sheet);
     if (content.folding != nullptr &&
         setObjectAttribute(sheet, "insert-sheet-folding", content.folding) != ZUNDO_OK)
         destroy(content.folding);

@@ -8,6 +8,7 @@
 #include "values/value_objects.h"
 #include "write/finishing_writer.h"
 #include "write/jdf_root.h"
+#include "write/layout_writers.h"
 #include "write/media_writer.h"
 #include "write/number_format.h"
 #include "write/object_values.h"
@@ -234,11 +235,24 @@ void writeOutputBin(JDFWriteContext *ctx, CascadeState *state) {
         setAttributeTraced(location.element, "LocationName", bin.firstString());
 }
 
+void writePageCellsStep(JDFWriteContext *ctx, CascadeState *state) {
+    if (writePageRangePageCells(ctx, state->object, state->runRange)) state->cellLevel = 1;
+}
+
+void writeFitPolicyAndImageShiftStep(JDFWriteContext *ctx, CascadeState *state) {
+    writeFitPolicyAndImageShift(ctx, state->object, state->cellLevel, state->runRange,
+                                state->documentIndex);
+}
+
+void writeMarksStep(JDFWriteContext *ctx, CascadeState *state) {
+    writeObjectMarks(ctx, state->object, state->runRange);
+}
+
 const CascadeStep kCascadeSteps[] = {
-    {"page cells", nullptr, nullptr},
+    {"page cells", writePageCellsStep, nullptr},
     {"media", writeMediaRefs, nullptr},
-    {"fit policy and image shift", nullptr, nullptr},
-    {"marks", nullptr, nullptr},
+    {"fit policy and image shift", writeFitPolicyAndImageShiftStep, nullptr},
+    {"marks", writeMarksStep, nullptr},
     {"sides", nullptr, kSidesRows},
     {"cover and interface box of job-level page ranges", writeJobLevelPageRangeValues, nullptr},
     {"destination device", writeDestination, nullptr},

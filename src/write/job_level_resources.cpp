@@ -3,9 +3,11 @@
 
 #include "enums/value_tables.h"
 #include "write/attribute_cascade.h"
+#include "write/audit_writers.h"
 #include "write/digital_printing_writer.h"
 #include "write/finishing_writer.h"
 #include "write/interpreting_writer.h"
+#include "write/layout_writers.h"
 #include "write/page_list.h"
 #include "write/resource_getters.h"
 #include "zundo_trace.h"
@@ -54,17 +56,17 @@ void writeInterpretingParamsStep(JDFWriteContext *ctx, zundo_int_object_s *job) 
 
 const JobLevelStep kJobLevelSteps[] = {
     {"print parameters of the job", writeJobCascade, nullptr},
-    {"created and modified audits", nullptr, nullptr},
+    {"created and modified audits", writeJobHistory, nullptr},
     {"collate", nullptr, kCollateRows},
     {"jog offset", writeJogOffset, nullptr},
-    {"insert sheets of the job", nullptr, nullptr},
+    {"insert sheets of the job", writeJobInsertSheets, nullptr},
     {"screening", writeScreening, nullptr},
     {"process pages", writeJobProcessPages, nullptr},
     {"delivery, fuser, imposition, interface box, product and page order", nullptr,
      kJobValueRows},
     {"AFP resources", writeAFPResourcesStep, nullptr},
     {"interpreting parameters", writeInterpretingParamsStep, nullptr},
-    {"separator and banner sheets", nullptr, nullptr},
+    {"separator and banner sheets", writeSeparatorAndBannerSheets, nullptr},
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "enums/value_tables.h"
 #include "values/value_objects.h"
 #include "write/audits.h"
+#include "write/colour_writers.h"
 #include "write/comments.h"
 #include "write/jdf_attr.h"
 #include "write/media_writer.h"
@@ -434,4 +435,5 @@ void writeMediaContent(JDFWriteContext *ctx, xercesc::DOMElement *resource,
     writeAmountUsed(ctx, link, media, auditOnly);
     writePMPInfo(resource, media);
     writeRows(resource, media, kMediaRows);
+    writeMediaColorProfiles(ctx, media);
 }

@@ -7,6 +7,7 @@
 
 #include "enums/value_tables.h"
 #include "write/jdf_attr.h"
+#include "write/layout_writers.h"
 #include "write/number_format.h"
 #include "write/object_values.h"
 #include "write/resource_getters.h"
@@ -126,7 +127,8 @@ void writeFillSheet(xercesc::DOMElement *run, const zundo_start_page_s *startPag
     setAttributeTraced(sheet, "SheetFormat", "Blank");
 }
 
-void writeRunInsertSheet(xercesc::DOMElement *run, zundo_int_object_s *insertSheet) {
+void writeRunInsertSheet(JDFWriteContext *ctx, xercesc::DOMElement *run,
+                         zundo_int_object_s *insertSheet) {
     xercesc::DOMElement *sheet = appendChildTraced(run, "InsertSheet");
     if (sheet == nullptr) return;
     setAttributeTraced(sheet, "SheetType", "InsertSheet");
@@ -135,6 +137,7 @@ void writeRunInsertSheet(xercesc::DOMElement *run, zundo_int_object_s *insertShe
     if (usage != nullptr) setAttributeTraced(sheet, "SheetUsage", usage);
     if (FetchedAttribute(insertSheet, "insert-sheet-content").firstInt(0) == kCoverContent)
         setAttributeTraced(sheet, "DescriptiveName", "Cover");
+    writeInsertSheetContent(ctx, sheet, insertSheet);
 }
 
 // The Run partition of one segment; null when it cannot be made.
@@ -154,9 +157,9 @@ xercesc::DOMElement *writeRun(JDFWriteContext *ctx, const RunSegment *segment,
     if (segment->frontStartPage != nullptr) writeFillSheet(run, segment->frontStartPage);
     if (segment->backStartPage != nullptr) writeFillSheet(run, segment->backStartPage);
     for (size_t i = 0; i < segment->headerCount; ++i)
-        writeRunInsertSheet(run, segment->headerSheets[i]);
+        writeRunInsertSheet(ctx, run, segment->headerSheets[i]);
     for (size_t i = 0; i < segment->trailerCount; ++i)
-        writeRunInsertSheet(run, segment->trailerSheets[i]);
+        writeRunInsertSheet(ctx, run, segment->trailerSheets[i]);
     char pages[ZUNDO_RANGE_TEXT_SIZE];
     setAttributeTraced(run, "Pages", toStringRange(pages, &segment->pages));
     return run;

@@ -44,11 +44,11 @@ TEST(WriteTicket, EmptyJobGivesTheFixedRoot) {
     EXPECT_EQ(utf8(comment->getTextContent()), "1.4.13 Drop 382");
 
     // In pool order, whatever the order of creation: the one document's
-    // LayoutElement and RunList come first; the Component carries the
-    // default copy count.
+    // LayoutElement and RunList come first; every write makes
+    // RenderingParams, and the Component carries the default copy count.
     EXPECT_EQ(childNames(written.pool("ResourcePool")),
               (std::vector<std::string>{"LayoutElement", "RunList", "LayoutPreparationParams",
-                                        "InterpretingParams", "Component",
+                                        "InterpretingParams", "RenderingParams", "Component",
                                         "DigitalPrintingParams"}));
     const char *const ids[] = {"LPP0", "IIP0", "DPP0"};
     const char *const indexes[] = {"0", "2", "4"};
