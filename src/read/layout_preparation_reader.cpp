@@ -180,22 +180,6 @@ void setCodeFromAttribute(zundo_int_object_s *object, const char *name,
         setIntegerAttribute(object, name, codeForJDFName(values, value.value()));
 }
 
-// Each Comment child whose Attribute is `jdfAttribute` (every Comment
-// child when it is null) sets its text as `name`; the last one stays.
-void readCommentUnits(xercesc::DOMElement *element, zundo_int_object_s *object,
-                      const char *jdfAttribute, const char *name) {
-    for (ElementEntry *child : ChildElements(element)) {
-        if (std::strcmp(child->name, "Comment") != 0) continue;
-        if (jdfAttribute != nullptr &&
-            !textIs(ElementAttribute(child->element, "Attribute").value(), jdfAttribute))
-            continue;
-        char *text = nullptr;
-        if (getElementText(child->element, &text).status == ZUNDO_OK)
-            setStringAttribute(object, name, text);
-        delete[] text;
-    }
-}
-
 void readFitPolicy(xercesc::DOMElement *fitPolicy, zundo_int_object_s *object,
                    const FitAndShiftNames &names) {
     setCodeFromAttribute(object, names.fitPolicy, fitPolicy, "SizePolicy", fitPolicyValues);

@@ -234,16 +234,6 @@ bool isMarkObject(const char *name) {
     return textIs(name, "MarkObject") || textIs(name, "morvellan:MarkObject");
 }
 
-// Each StripMark's Comment whose Attribute names the attribute sets the
-// unit; the last one stays.
-void readCommentUnits(const xercesc::DOMElement *element, zundo_int_object_s *object,
-                      const char *jdfAttribute, const char *name) {
-    for (ElementEntry *child : ChildElements(element))
-        if (textIs(child->name, "Comment") &&
-            textIs(ElementAttribute(child->element, "Attribute").value(), jdfAttribute))
-            setText(child->element, object, name);
-}
-
 void setBoolean(zundo_int_object_s *object, const char *name, const char *text) {
     setIntegerAttribute(object, name, convertBoolean(text));
 }

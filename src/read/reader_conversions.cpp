@@ -253,3 +253,17 @@ zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *nam
     destroyAttribute(attribute);
     return first;
 }
+
+void readCommentUnits(const xercesc::DOMElement *element, zundo_int_object_s *object,
+                      const char *jdfAttribute, const char *name) {
+    for (ElementEntry *child : ChildElements(element)) {
+        if (std::strcmp(child->name, "Comment") != 0) continue;
+        if (jdfAttribute != nullptr &&
+            !textIs(ElementAttribute(child->element, "Attribute").value(), jdfAttribute))
+            continue;
+        char *text = nullptr;
+        if (getElementText(child->element, &text).status == ZUNDO_OK)
+            setStringAttribute(object, name, text);
+        delete[] text;
+    }
+}

@@ -107,6 +107,11 @@ void replaceWithReferencedMedia(const xercesc::DOMElement *mediaRef, IdElement *
 // when it has none.
 zundo_int_object_s *firstObjectValue(zundo_int_object_s *object, const char *name);
 
+// Each Comment child whose Attribute is `jdfAttribute` (every Comment
+// child when it is null) sets its text as `name`; the last one stays.
+void readCommentUnits(const xercesc::DOMElement *element, zundo_int_object_s *object,
+                      const char *jdfAttribute, const char *name);
+
 // Adds one value to a multi-valued attribute of the object: the current
 // values are fetched, the value added and the whole set back. An object or
 // value object passes to the object; when it cannot be added it is

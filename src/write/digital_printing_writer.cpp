@@ -24,19 +24,6 @@ const int kDeleteAfterPeriod = 3;
 const int kDeleteAtTime = 4;
 const char kNoExtraDuration[] = "P0Y0M0DT00H00M";
 
-// The first child of that name, or a new last one; other writers may have
-// made the Disjointing already.
-xercesc::DOMElement *findOrAppendChild(xercesc::DOMElement *parent, const char *name) {
-    ElementEntry **children = nullptr;
-    xercesc::DOMElement *found = nullptr;
-    if (findChildElements(parent, &children).status == ZUNDO_OK) {
-        for (ElementEntry **child = children; *child != nullptr && found == nullptr; ++child)
-            if (hasTagName((*child)->element, name)) found = (*child)->element;
-    }
-    freeElementList(children);
-    return found != nullptr ? found : appendChildTraced(parent, name);
-}
-
 // The first value of a value-object attribute (date-time, time period),
 // or null.
 const void *firstValueObject(const FetchedAttribute &value) {

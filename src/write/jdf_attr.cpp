@@ -198,3 +198,14 @@ xercesc::DOMElement *appendChildTraced(xercesc::DOMElement *parent, const char *
     ElementEntry entry = {nullptr, name, nullptr, nullptr};
     return succeededTraced(createChildElement(parent, &entry).status) ? entry.element : nullptr;
 }
+
+xercesc::DOMElement *findOrAppendChild(xercesc::DOMElement *parent, const char *name) {
+    ElementEntry **children = nullptr;
+    xercesc::DOMElement *found = nullptr;
+    if (findChildElements(parent, &children).status == ZUNDO_OK) {
+        for (ElementEntry **child = children; *child != nullptr && found == nullptr; ++child)
+            if (hasTagName((*child)->element, name)) found = (*child)->element;
+    }
+    freeElementList(children);
+    return found != nullptr ? found : appendChildTraced(parent, name);
+}

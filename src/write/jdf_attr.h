@@ -42,4 +42,8 @@ bool succeededTraced(zundo_status_t status);
 // A new last child of parent; null (traced) when it cannot be made.
 xercesc::DOMElement *appendChildTraced(xercesc::DOMElement *parent, const char *name);
 
+// The first child of that name, or a new last one (traced when it cannot
+// be made): for children several writers share, such as the Disjointing.
+xercesc::DOMElement *findOrAppendChild(xercesc::DOMElement *parent, const char *name);
+
 #endif

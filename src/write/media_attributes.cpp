@@ -194,26 +194,6 @@ void writeCalibrationInfo(xercesc::DOMElement *resource, zundo_int_object_s *med
     setTextIfPresent(info, "CalibrationTypeName", media, "media-calibration-type-name");
 }
 
-// Binary data as Base64 text, with FormatVersion naming its version.
-void writeVersionedBinary(xercesc::DOMElement *parent, const char *name, zundo_int_object_s *media,
-                          const char *dataAttribute, const char *versionAttribute) {
-    FetchedAttribute data(media, dataAttribute);
-    if (!data.hasValue() && !objectHasValue(media, versionAttribute)) return;
-    xercesc::DOMElement *block = appendChildTraced(parent, name);
-    if (block == nullptr) return;
-    setTextIfPresent(block, "FormatVersion", media, versionAttribute);
-    const auto *binary = static_cast<const zundo_binary_object_s *>(firstValueObject(data));
-    unsigned char *encoded = nullptr;
-    if (binary == nullptr ||
-        !succeededTraced(encodeBase64(getBinaryData(binary),
-                                      static_cast<unsigned long>(getBinaryDataLength(binary)),
-                                      &encoded)) ||
-        encoded == nullptr)
-        return;
-    succeededTraced(appendTextNode(block, reinterpret_cast<char *>(encoded)).status);
-    releaseXMLString(reinterpret_cast<char *>(encoded));
-}
-
 const char *const kEngineCatalogAttributes[] = {
     "media-engine-state",          "media-engine-moses",
     "media-engine-moses-version",  "media-engine-mqprank",
@@ -418,6 +398,25 @@ const MediaOutputRow kMediaRows[] = {
 };
 
 }  // namespace
+
+void writeVersionedBinary(xercesc::DOMElement *parent, const char *name, zundo_int_object_s *object,
+                          const char *dataAttribute, const char *versionAttribute) {
+    FetchedAttribute data(object, dataAttribute);
+    if (!data.hasValue() && !objectHasValue(object, versionAttribute)) return;
+    xercesc::DOMElement *block = appendChildTraced(parent, name);
+    if (block == nullptr) return;
+    setTextIfPresent(block, "FormatVersion", object, versionAttribute);
+    const auto *binary = static_cast<const zundo_binary_object_s *>(firstValueObject(data));
+    unsigned char *encoded = nullptr;
+    if (binary == nullptr ||
+        !succeededTraced(encodeBase64(getBinaryData(binary),
+                                      static_cast<unsigned long>(getBinaryDataLength(binary)),
+                                      &encoded)) ||
+        encoded == nullptr)
+        return;
+    succeededTraced(appendTextNode(block, reinterpret_cast<char *>(encoded)).status);
+    releaseXMLString(reinterpret_cast<char *>(encoded));
+}
 
 void writeHoleLineContent(xercesc::DOMElement *holeLine, zundo_int_object_s *line) {
     zundo_int_object_s *hole = FetchedAttribute(line, "hole-line-hole").firstObject();

@@ -33,6 +33,12 @@ zundo_status_t writeMedia(JDFWriteContext *ctx, zundo_int_object_s *media,
 // Writer step: every media of "job-audit-medias" that has an amount used.
 void writeAuditMedia(JDFWriteContext *ctx, zundo_int_object_s *job);
 
+// A child `name` of parent holding the object's binary value as Base64
+// text, with FormatVersion naming its version; nothing when the object has
+// neither.
+void writeVersionedBinary(xercesc::DOMElement *parent, const char *name, zundo_int_object_s *object,
+                          const char *dataAttribute, const char *versionAttribute);
+
 // A HoleLine element's content: the line's hole as a "Hole" child, and
 // its Pitch. Media hole lists and hole making share it.
 void writeHoleLineContent(xercesc::DOMElement *holeLine, zundo_int_object_s *line);

@@ -8,6 +8,7 @@
 #include "write/attribute_cascade.h"
 #include "write/colour_writers.h"
 #include "write/jdf_attr.h"
+#include "write/media_writer.h"
 #include "write/number_format.h"
 #include "write/resource_getters.h"
 #include "xml/jdf_pools.h"
@@ -73,26 +74,6 @@ void writeTimeStamp(xercesc::DOMElement *element, zundo_int_object_s *object, co
     const auto *time = static_cast<const zundo_date_time_s *>(firstValueObject(value));
     char text[ZUNDO_DATE_TIME_TEXT_SIZE];
     if (time != nullptr) setAttributeTraced(element, jdfName, toStringDateTime(text, time));
-}
-
-// The binary data as Base64 text, with FormatVersion naming its version.
-void writeDensityConversion(xercesc::DOMElement *resource, zundo_int_object_s *calibration) {
-    FetchedAttribute data(calibration, "calibration-type-density-conversion-param");
-    const char *version = "calibration-type-density-conversion-param-version";
-    if (!data.hasValue() && !objectHasValue(calibration, version)) return;
-    xercesc::DOMElement *parameter = appendChildTraced(resource, "DensityConversionParameter");
-    if (parameter == nullptr) return;
-    writeElementValue(parameter, calibration, version, "FormatVersion", kTextValue, nullptr);
-    const auto *binary = static_cast<const zundo_binary_object_s *>(firstValueObject(data));
-    unsigned char *encoded = nullptr;
-    if (binary == nullptr ||
-        !succeededTraced(encodeBase64(getBinaryData(binary),
-                                      static_cast<unsigned long>(getBinaryDataLength(binary)),
-                                      &encoded)) ||
-        encoded == nullptr)
-        return;
-    succeededTraced(appendTextNode(parameter, reinterpret_cast<char *>(encoded)).status);
-    releaseXMLString(reinterpret_cast<char *>(encoded));
 }
 
 }  // namespace
@@ -197,7 +178,9 @@ void writeCalibrationType(JDFWriteContext *ctx, zundo_int_object_s *job) {
             return;
         }
         if (!extraInfo.empty()) setAttributeTraced(info.resource, "ExtraInfo", extraInfo.c_str());
-        writeDensityConversion(info.resource, calibration);
+        writeVersionedBinary(info.resource, "DensityConversionParameter", calibration,
+                             "calibration-type-density-conversion-param",
+                             "calibration-type-density-conversion-param-version");
         writeElementValues(info.resource, calibration, kCalibrationRows);
         writeTimeStamp(info.resource, calibration, "calibration-type-created-time-stamp",
                        "CreatedTimeStamp");

@@ -43,15 +43,7 @@ xercesc::DOMElement *appendInsertSheet(xercesc::DOMElement *parent, const char *
 // The Disjointing of DigitalPrintingParams, shared with the jog offset.
 xercesc::DOMElement *getDisjointing(JDFWriteContext *ctx) {
     xercesc::DOMElement *params = getDigitalPrintingParams(ctx);
-    if (params == nullptr) return nullptr;
-    ElementEntry **children = nullptr;
-    xercesc::DOMElement *found = nullptr;
-    if (findChildElements(params, &children).status == ZUNDO_OK) {
-        for (ElementEntry **child = children; *child != nullptr && found == nullptr; ++child)
-            if (hasTagName((*child)->element, "Disjointing")) found = (*child)->element;
-    }
-    freeElementList(children);
-    return found != nullptr ? found : appendChildTraced(params, "Disjointing");
+    return params != nullptr ? findOrAppendChild(params, "Disjointing") : nullptr;
 }
 
 void writeJobInsertSheet(JDFWriteContext *ctx, zundo_int_object_s *insertSheet) {

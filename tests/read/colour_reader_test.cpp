@@ -10,15 +10,6 @@
 
 namespace {
 
-std::vector<zundo_int_object_s *> objectsOf(zundo_int_object_s *object, const char *name) {
-    std::vector<zundo_int_object_s *> objects;
-    zundo_int_attribute_s *attribute = get(object, name);
-    while (hasNextValue(attribute))
-        objects.push_back(static_cast<zundo_int_object_s *>(nextValue(attribute)));
-    destroyAttribute(attribute);
-    return objects;
-}
-
 std::string op(const std::string &attributes, const std::string &children = "") {
     return "<ColorSpaceConversionOp Operation=\"Convert\" " + attributes + ">" + children +
            "</ColorSpaceConversionOp>";

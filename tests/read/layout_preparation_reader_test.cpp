@@ -11,15 +11,6 @@
 
 namespace {
 
-std::vector<zundo_int_object_s *> objectsOf(zundo_int_object_s *object, const char *name) {
-    std::vector<zundo_int_object_s *> values;
-    zundo_int_attribute_s *attribute = get(object, name);
-    while (hasNextValue(attribute))
-        values.push_back(static_cast<zundo_int_object_s *>(nextValue(attribute)));
-    destroyAttribute(attribute);
-    return values;
-}
-
 // "lower~upper" of each range, blank-separated.
 std::string rangesOf(zundo_int_object_s *object, const char *name) {
     std::string text;

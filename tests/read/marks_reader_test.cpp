@@ -9,15 +9,6 @@
 
 namespace {
 
-std::vector<zundo_int_object_s *> objectsOf(zundo_int_object_s *object, const char *name) {
-    std::vector<zundo_int_object_s *> values;
-    zundo_int_attribute_s *attribute = get(object, name);
-    while (hasNextValue(attribute))
-        values.push_back(static_cast<zundo_int_object_s *>(nextValue(attribute)));
-    destroyAttribute(attribute);
-    return values;
-}
-
 std::vector<int> integersOf(zundo_int_object_s *object, const char *name) {
     std::vector<int> values;
     zundo_int_attribute_s *attribute = get(object, name);

@@ -53,6 +53,16 @@ inline std::vector<std::string> textsOf(zundo_int_object_s *object, const char *
 }
 
 // `none` when the attribute has no value (its not-set value included).
+// The objects of an object-list attribute, still owned by `object`.
+inline std::vector<zundo_int_object_s *> objectsOf(zundo_int_object_s *object, const char *name) {
+    std::vector<zundo_int_object_s *> objects;
+    zundo_int_attribute_s *attribute = get(object, name);
+    while (hasNextValue(attribute))
+        objects.push_back(static_cast<zundo_int_object_s *>(nextValue(attribute)));
+    destroyAttribute(attribute);
+    return objects;
+}
+
 inline int intOf(zundo_int_object_s *object, const char *name, int none = -12345) {
     zundo_int_attribute_s *attribute = get(object, name);
     int value = hasNextValue(attribute) ? *static_cast<int *>(nextValue(attribute)) : none;

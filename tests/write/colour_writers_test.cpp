@@ -32,15 +32,6 @@ zundo_int_object_s *colorPlane(const char *name) {
     return plane;
 }
 
-std::vector<zundo_int_object_s *> objectsOf(zundo_int_object_s *object, const char *name) {
-    std::vector<zundo_int_object_s *> objects;
-    zundo_int_attribute_s *attribute = get(object, name);
-    while (hasNextValue(attribute))
-        objects.push_back(static_cast<zundo_int_object_s *>(nextValue(attribute)));
-    destroyAttribute(attribute);
-    return objects;
-}
-
 TEST(ColourWriters, SettingsOfOneKindAndSpaceGatherOnOneOperationAndReadBack) {
     TestTicket ticket;
     const std::vector<std::pair<const char *, int>> settings = {
