@@ -50,8 +50,10 @@ const size_t kNameSize = 96;
 
 const char *composeName(char (&name)[kNameSize], const char *a, const char *b, const char *c = "",
                         const char *d = "") {
-    std::snprintf(name, sizeof name, "%s%s%s%s", a, b, c, d);
-    return name;
+    // A name that does not fit is no attribute name: null, which every
+    // setter and getter refuses.
+    int length = std::snprintf(name, sizeof name, "%s%s%s%s", a, b, c, d);
+    return length >= 0 && static_cast<size_t>(length) < sizeof name ? name : nullptr;
 }
 
 // The attributes by which an operation holds settings rather than a
