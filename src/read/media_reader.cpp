@@ -15,6 +15,7 @@
 #include "enums/value_tables.h"
 #include "read/reader_conversions.h"
 #include "xml/jdf_pools.h"
+#include "xml/link_index.h"
 #include "zundo_trace.h"
 
 namespace {
@@ -213,32 +214,25 @@ void readMediaAttributes(zundo_int_object_s *media, const xercesc::DOMElement *e
     freeAttrList(attributes);
 }
 
-// The ResourceAudit of the media's JDF node whose MediaLink refers to
-// `reference`, or null.
+// The ResourceAudit of the media's JDF node whose MediaLink refers to the
+// link's rRef, or null.
 const xercesc::DOMElement *findMediaAudit(const xercesc::DOMElement *media,
-                                          const char *reference) {
+                                          const xercesc::DOMElement *link) {
     xercesc::DOMNode *node = getParentElement(getParentElement(media));
     if (node == nullptr || node->getNodeType() != xercesc::DOMNode::ELEMENT_NODE) return nullptr;
-    ChildElements nodeChildren(static_cast<xercesc::DOMElement *>(node));
-    ChildElements audits(nodeChildren.first("AuditPool"));
-    for (ElementEntry *audit : audits) {
-        if (std::strcmp(audit->name, "ResourceAudit") != 0) continue;
-        ChildElements links(audit->element);
-        for (ElementEntry *link : links)
-            if (std::strcmp(link->name, "MediaLink") == 0 &&
-                textIs(ElementAttribute(link->element, "rRef").value(), reference))
-                return audit->element;
-    }
-    return nullptr;
+    xercesc::DOMElement *auditPool =
+        ChildElements(static_cast<xercesc::DOMElement *>(node)).first("AuditPool");
+    return auditPool != nullptr ? findHolderOfReference(auditPool, u"ResourceAudit", u"MediaLink",
+                                                        link->getAttribute(u"rRef"))
+                                : nullptr;
 }
 
 void readAmountUsed(zundo_int_object_s *media, const xercesc::DOMElement *element) {
     xercesc::DOMElement *link = getElementLinkFromElement(element, "Input");
     if (link == nullptr) return;
     setRealFromText(media, "media-amount-used", ElementAttribute(link, "ActualAmount").value());
-    ElementAttribute reference(link, "rRef");
-    if (reference.value() == nullptr) return;
-    const xercesc::DOMElement *audit = findMediaAudit(element, reference.value());
+    if (!link->hasAttribute(u"rRef")) return;
+    const xercesc::DOMElement *audit = findMediaAudit(element, link);
     if (audit == nullptr) return;
     // The writer stamps audits without a time with the zero time.
     ElementAttribute time(audit, "TimeStamp");

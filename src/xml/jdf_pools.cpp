@@ -6,12 +6,14 @@
 #include <xercesc/dom/DOMElement.hpp>
 #include <xercesc/util/XMLString.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <new>
 #include <string>
 
 #include "xml/jdf_lists.h"
+#include "xml/link_index.h"
 #include "zundo_trace.h"
 
 XERCES_CPP_NAMESPACE_USE
@@ -113,6 +115,7 @@ zundo_status_t insertInPoolOrder(DOMElement *pool, DOMElement *element, const ch
     } catch (...) {
         return domFailure(operation);
     }
+    recordInsertedLink(pool, element);
     return ZUNDO_OK;
 }
 
@@ -225,14 +228,22 @@ DOMElement *getElementLinkFromElement(const DOMElement *resource, const char *us
     XMLString::copyString(linkName, resourceName);
     XMLString::copyString(linkName + nameLength, u"Link");
     DOMElement *found = nullptr;
-    if (resource->hasAttribute(u"ID")) {
+    DOMElement *linkPool = resource->hasAttribute(u"ID")
+                               ? firstChildNamed(owningNode(resource), "ResourceLinkPool")
+                               : nullptr;
+    if (linkPool != nullptr) {
         const XMLCh *id = resource->getAttribute(u"ID");
-        DOMElement *linkPool = firstChildNamed(owningNode(resource), "ResourceLinkPool");
-        for (DOMElement *link = linkPool != nullptr ? linkPool->getFirstElementChild() : nullptr;
-             link != nullptr && found == nullptr; link = link->getNextElementSibling()) {
-            if (sameName(link->getTagName(), linkName) &&
-                attributeEquals(link, u"Usage", wideUsage) && attributeEquals(link, u"rRef", id))
-                found = link;
+        auto matches = [&](const DOMElement *link) {
+            return sameName(link->getTagName(), linkName) &&
+                   attributeEquals(link, u"Usage", wideUsage) && attributeEquals(link, u"rRef", id);
+        };
+        if (const std::vector<DOMElement *> *links = findIndexedLinks(linkPool, id)) {
+            auto first = std::find_if(links->begin(), links->end(), matches);
+            if (first != links->end()) found = *first;
+        } else {
+            for (DOMElement *link = linkPool->getFirstElementChild();
+                 link != nullptr && found == nullptr; link = link->getNextElementSibling())
+                if (matches(link)) found = link;
         }
     }
     delete[] linkName;

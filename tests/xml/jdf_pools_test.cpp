@@ -71,6 +71,24 @@ TEST(JdfPools, ResourcesAndLinksGoInPoolOrder) {
     EXPECT_EQ("Available", attribute(pools.resources->getFirstElementChild(), "Status"));
 }
 
+// Link lookups are indexed once a pool has been searched: links added
+// afterwards, even in front of the ones found before, must be found too.
+TEST(JdfPools, LinksAddedAfterASearchAreFound) {
+    Pools pools;
+    ResourceInfo media = resource("Media", "M");
+    ASSERT_EQ(ZUNDO_OK, addResourceToPools(pools.resources, pools.links, &media).status);
+    EXPECT_EQ(media.link, getElementLinkFromElement(media.resource, "Input"));
+    ResourceInfo layout = resource("LayoutElement", "M");
+    ASSERT_EQ(ZUNDO_OK, addResourceToPools(pools.resources, pools.links, &layout).status);
+    ResourceInfo output = resource("Media", "M", "2");
+    ASSERT_EQ(ZUNDO_OK,
+              addResourceToPoolsWithOutput(pools.resources, pools.links, &output).status);
+    EXPECT_EQ(layout.link, getElementLinkFromElement(layout.resource, "Input"));
+    EXPECT_EQ(media.link, getElementLinkFromElement(media.resource, "Input"));
+    EXPECT_EQ(output.link->getNextElementSibling(),
+              getElementLinkFromElement(media.resource, "Output"));
+}
+
 TEST(JdfPools, OutputLinkTakesThePreviousProcessIndex) {
     Pools pools;
     for (const char *index : std::vector<const char *>{"3", nullptr, "x"}) {
