@@ -199,18 +199,57 @@ zundo_status_t setWordListFromText(zundo_int_object_s *object, const char *name,
     return setValueList(object, name, ZUNDO_KIND_STRING, values.data());
 }
 
+ListAppender::ListAppender(zundo_int_object_s *object, const char *name)
+    : object_(object), name_(name), list_(get(object, name)) {}
+
+ListAppender::~ListAppender() {
+    commit();
+    destroyAttribute(list_);
+}
+
+zundo_status_t ListAppender::add(const void *value) {
+    if (list_ == nullptr) return ZUNDO_NOT_FOUND;
+    const char *kind = getValueType(list_);
+    zundo_status_t status = addValue(list_, value);
+    if (status == ZUNDO_OK) {
+        try {
+            added_.push_back(value);
+            return ZUNDO_OK;
+        } catch (const std::bad_alloc &) {
+            traceOutOfMemory("ListAppender");
+            status = ZUNDO_OUT_OF_MEMORY;
+        }
+        // The list holds a value it cannot account for: start again from
+        // what the object holds.
+        forgetAdded(kind);
+    }
+    if (objectTakesValue(kind)) destroyValueByKind(kind, const_cast<void *>(value));
+    return status;
+}
+
+zundo_status_t ListAppender::commit() {
+    if (added_.empty()) return ZUNDO_OK;
+    zundo_status_t status = set(object_, list_);
+    if (status == ZUNDO_OK) added_.clear();
+    else forgetAdded(getValueType(list_));
+    return status;
+}
+
+// On refusal the object keeps its old values; only the added ones are
+// ours, and the list is fetched again without them.
+void ListAppender::forgetAdded(const char *kind) {
+    if (objectTakesValue(kind))
+        for (const void *value : added_) destroyValueByKind(kind, const_cast<void *>(value));
+    added_.clear();
+    destroyAttribute(list_);
+    list_ = get(object_, name_);
+}
+
 zundo_status_t appendAttributeValue(zundo_int_object_s *object, const char *name,
                                     const void *value) {
-    zundo_int_attribute_s *attribute = get(object, name);
-    if (attribute == nullptr) return ZUNDO_NOT_FOUND;
-    const char *kind = getValueType(attribute);
-    zundo_status_t status = addValue(attribute, value);
-    if (status == ZUNDO_OK) status = set(object, attribute);
-    // On refusal the object keeps its old values; only the new one is ours.
-    if (status != ZUNDO_OK && objectTakesValue(kind))
-        destroyValueByKind(kind, const_cast<void *>(value));
-    destroyAttribute(attribute);
-    return status;
+    ListAppender list(object, name);
+    zundo_status_t status = list.add(value);
+    return status == ZUNDO_OK ? list.commit() : status;
 }
 
 zundo_status_t setAndReleaseAttribute(zundo_int_object_s *object,

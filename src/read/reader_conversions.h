@@ -119,6 +119,31 @@ void readCommentUnits(const xercesc::DOMElement *element, zundo_int_object_s *ob
 // object has no such attribute.
 zundo_status_t appendAttributeValue(zundo_int_object_s *object, const char *name,
                                     const void *value);
+// Values appended to one list attribute of an object and set back once
+// (at commit, or when the appender goes): appending value by value through
+// get and set costs time quadratic in the length of the list. An object or
+// value object passes to the appender; one the list cannot take, or that
+// the object refuses at commit, is destroyed.
+class ListAppender {
+public:
+    ListAppender(zundo_int_object_s *object, const char *name);
+    ~ListAppender();
+    ListAppender(const ListAppender &) = delete;
+    ListAppender &operator=(const ListAppender &) = delete;
+    // ZUNDO_NOT_FOUND, with the value left to the caller, when the object
+    // has no such attribute.
+    zundo_status_t add(const void *value);
+    zundo_status_t commit();
+
+private:
+    void forgetAdded(const char *kind);
+
+    zundo_int_object_s *object_;
+    const char *name_;  // borrowed: a constant name
+    zundo_int_attribute_s *list_;
+    std::vector<const void *> added_;
+};
+
 // Sets a list attribute the reader built and destroys it. When the object
 // refuses it, the objects and value objects it holds are destroyed too.
 zundo_status_t setAndReleaseAttribute(zundo_int_object_s *object, zundo_int_attribute_s *attribute);

@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "enums/value_tables.h"
@@ -28,6 +29,14 @@ struct RunPages {
     int last;
 };
 typedef std::vector<RunPages> RunPageList;
+// The records of one Run, in list order.
+typedef std::vector<const RunPages *> RunRecords;
+
+const RunRecords &recordsOf(const std::unordered_map<std::string, RunRecords> &byRun,
+                            const char *run, const RunRecords &none) {
+    auto found = byRun.find(run);
+    return found != byRun.end() ? found->second : none;
+}
 
 enum { kBackSide = 1, kFrontSide = 2 };
 const int kTrailerSheet = 1;
@@ -186,20 +195,19 @@ void readInsertSheetChildren(const xercesc::DOMElement *insertSheet, IdElement *
 
 // A fill sheet: a start page at the first page of the sheet's Run. When
 // the start page cannot be added, the Run's next page record is tried.
-zundo_status_t addStartPage(zundo_int_object_s *owner, const char *attribute, const char *run,
-                            int sheetSide, const char *description, const RunPageList &runPages) {
+zundo_status_t addStartPage(ListAppender *startPages, const char *attribute, int sheetSide,
+                            const char *description, const RunRecords &records) {
     zundo_status_t status = ZUNDO_OK;
-    for (const RunPages &pages : runPages) {
-        if (pages.run != run) continue;
+    for (const RunPages *pages : records) {
         zundo_start_page_s *startPage = nullptr;
-        status = newStartPage(&startPage, pages.first, sheetSide);
+        status = newStartPage(&startPage, pages->first, sheetSide);
         if (status != ZUNDO_OK) {
             zundo_trace("call to newStartPage failed: internal error \n");
             return status;
         }
         if (description != nullptr)
             setDescription(startPage, codeForJDFName(startPageDescriptionValues, description));
-        status = appendAttributeValue(owner, attribute, startPage);
+        status = startPages->add(startPage);
         if (status == ZUNDO_OK) return status;
         zundo_trace("call to addValue failed for %s: internal error \n", attribute);
     }
@@ -208,16 +216,15 @@ zundo_status_t addStartPage(zundo_int_object_s *owner, const char *attribute, co
 
 // An insert sheet before the first page of each page record of its Run,
 // or after the last one for a trailer.
-zundo_status_t addInsertSheet(zundo_int_object_s *owner, const char *attribute, const char *run,
-                              int kind, const xercesc::DOMElement *element, bool described,
-                              const RunPageList &runPages, IdElement **mediaList) {
+zundo_status_t addInsertSheet(ListAppender *insertSheets, int kind,
+                              const xercesc::DOMElement *element, bool described,
+                              const RunRecords &records, IdElement **mediaList) {
     std::vector<zundo_range_s *> pages;
-    pages.reserve(runPages.size() + 1);
+    pages.reserve(records.size() + 1);
     SheetContent content;
     readInsertSheetChildren(element, mediaList, &content);
-    for (const RunPages &record : runPages) {
-        if (record.run != run) continue;
-        int page = kind == kTrailerSheet ? record.last : record.first;
+    for (const RunPages *record : records) {
+        int page = kind == kTrailerSheet ? record->last : record->first;
         zundo_range_s *range = nullptr;
         zundo_status_t status = newRange(&range, page, page);
         if (status == ZUNDO_OUT_OF_MEMORY) {
@@ -243,7 +250,7 @@ zundo_status_t addInsertSheet(zundo_int_object_s *owner, const char *attribute, 
         setObjectAttribute(sheet, "insert-sheet-folding", content.folding) != ZUNDO_OK)
         destroy(content.folding);
     if (described) setIntegerAttribute(sheet, "insert-sheet-content", kDescribedContent);
-    return appendAttributeValue(owner, attribute, sheet);
+    return insertSheets->add(sheet);
 }
 
 // The InsertSheets of the given Run (of every Run when none is given) to
@@ -253,35 +260,44 @@ zundo_status_t readInsertSheetElements(ElementEntry *const *entries, zundo_int_o
                                        const char *run, const RunPageList &runPages,
                                        IdElement **mediaList) {
     zundo_trace(">> Entering readInsertSheetElements \n");
-    const char *startPages = run != nullptr ? "document-start-pages" : "job-start-pages";
-    const char *insertSheets = run != nullptr ? "document-insert-sheets" : "job-insert-sheets";
+    const char *startPageList = run != nullptr ? "document-start-pages" : "job-start-pages";
+    const char *insertSheetList = run != nullptr ? "document-insert-sheets" : "job-insert-sheets";
     zundo_status_t status = ZUNDO_OK;
-    for (ElementEntry *const *entry = entries; entry != nullptr && *entry != nullptr; ++entry) {
-        const char *sheetRun = (*entry)->firstKey != nullptr ? (*entry)->firstKey : "";
-        if (!textIs((*entry)->name, "InsertSheet") || (run != nullptr && !textIs(sheetRun, run)))
-            continue;
-        const xercesc::DOMElement *element = (*entry)->element;
-        ElementAttribute type(element, "SheetType");
-        ElementAttribute usage(element, "SheetUsage");
-        ElementAttribute description(element, "DescriptiveName");
-        if (type.value() == nullptr || usage.value() == nullptr) continue;
-        if (textIs(type.value(), "FillSheet") &&
-            (textIs(usage.value(), "FillForceBack") || textIs(usage.value(), "FillForceFront"))) {
-            int side = textIs(usage.value(), "FillForceBack") ? kBackSide : kFrontSide;
-            status = addStartPage(owner, startPages, sheetRun, side, description.value(), runPages);
-            continue;
+    try {
+        // The run page records of each Run, looked up once per sheet.
+        std::unordered_map<std::string, RunRecords> recordsByRun;
+        for (const RunPages &pages : runPages) recordsByRun[pages.run].push_back(&pages);
+        const RunRecords noRecords;
+        ListAppender startPages(owner, startPageList);
+        ListAppender insertSheets(owner, insertSheetList);
+        for (ElementEntry *const *entry = entries; entry != nullptr && *entry != nullptr; ++entry) {
+            const char *sheetRun = (*entry)->firstKey != nullptr ? (*entry)->firstKey : "";
+            if (!textIs((*entry)->name, "InsertSheet") ||
+                (run != nullptr && !textIs(sheetRun, run)))
+                continue;
+            const xercesc::DOMElement *element = (*entry)->element;
+            ElementAttribute type(element, "SheetType");
+            ElementAttribute usage(element, "SheetUsage");
+            ElementAttribute description(element, "DescriptiveName");
+            if (type.value() == nullptr || usage.value() == nullptr) continue;
+            bool back = textIs(usage.value(), "FillForceBack");
+            if (textIs(type.value(), "FillSheet") &&
+                (back || textIs(usage.value(), "FillForceFront"))) {
+                status = addStartPage(&startPages, startPageList, back ? kBackSide : kFrontSide,
+                                      description.value(),
+                                      recordsOf(recordsByRun, sheetRun, noRecords));
+                continue;
+            }
+            int kind = textIs(type.value(), "InsertSheet")
+                           ? getZUNDOEnumValue("insert-sheet-position", usage.value())
+                           : 0;
+            status = addInsertSheet(&insertSheets, kind, element, description.value() != nullptr,
+                                    recordsOf(recordsByRun, sheetRun, noRecords), mediaList);
+            if (status == ZUNDO_OUT_OF_MEMORY) break;
         }
-        int kind = textIs(type.value(), "InsertSheet")
-                       ? getZUNDOEnumValue("insert-sheet-position", usage.value())
-                       : 0;
-        try {
-            status = addInsertSheet(owner, insertSheets, sheetRun, kind, element,
-                                    description.value() != nullptr, runPages, mediaList);
-        } catch (const std::bad_alloc &) {
-            zundo_trace("readInsertSheetElements() generated out of memory");
-            status = ZUNDO_OUT_OF_MEMORY;
-        }
-        if (status == ZUNDO_OUT_OF_MEMORY) break;
+    } catch (const std::bad_alloc &) {
+        zundo_trace("readInsertSheetElements() generated out of memory");
+        status = ZUNDO_OUT_OF_MEMORY;
     }
     zundo_trace("<< Leaving readInsertSheetElements \n");
     return status;
