@@ -5,6 +5,7 @@
 #ifndef ZUNDO_READ_AUDIT_POOL_READER_H
 #define ZUNDO_READ_AUDIT_POOL_READER_H
 
+#include "read/reader_conversions.h"
 #include "xml/jdf_lists.h"
 
 // Reads the phase times, then every audit of the pool in order. mediaList
@@ -19,10 +20,11 @@ zundo_status_t getAuditPoolElement(xercesc::DOMElement *auditPool, zundo_int_obj
 // path that names none). The status of setModifiedAttribute.
 zundo_status_t readModifiedXPath(const char *xpath, zundo_modified_s *modified);
 
-// One counter of "job-usage-counters" from a UsageCounter resource, its
-// Input link and the ResourceAudit of that link. Always ZUNDO_OK.
+// One counter from a UsageCounter resource, its Input link and the
+// ResourceAudit of that link, added to usageCounters (the job's
+// "job-usage-counters", set once after the ResourcePool). Always ZUNDO_OK.
 zundo_status_t readUsageCounterResource(xercesc::DOMElement *usageCounter,
-                                        zundo_int_object_s *ticket);
+                                        ListAppender *usageCounters);
 
 // The ink consumption an Ink resource records: its Unit, the amounts of
 // its Input link's AmountPool ("job-ink-usages") and the time of the

@@ -57,7 +57,7 @@ zundo_status_t readJDFVersionCurrent(ElementEntry *const *children, zundo_int_ob
     }
     if (jobComments != nullptr) setAndReleaseAttribute(getJob(ticket), jobComments);
 
-    ResourceReadContext context{ticket, nullptr, nullptr, nullptr};
+    ResourceReadContext context{ticket, nullptr, nullptr, nullptr, nullptr};
     if (resourcePool != nullptr) status = readResourcePoolElement(resourcePool, &context);
     if (auditPool != nullptr) status = readAuditPool(auditPool, &context);
     freeIdElementList(context.mediaList);

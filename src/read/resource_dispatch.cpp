@@ -80,6 +80,13 @@ zundo_status_t readCalibrationTypeParams(xercesc::DOMElement *resource, const ch
     return readCalibrationTypeParamsResource(resource, getJob(context->ticket));
 }
 
+zundo_status_t readUsageCounter(xercesc::DOMElement *resource, const char *,
+                                ResourceReadContext *context) {
+    return context->usageCounters != nullptr
+               ? readUsageCounterResource(resource, context->usageCounters)
+               : ZUNDO_OK;
+}
+
 // The job-level readers that take only the ticket.
 template <zundo_status_t (*reader)(xercesc::DOMElement *, zundo_int_object_s *)>
 zundo_status_t readForTicket(xercesc::DOMElement *resource, const char *,
@@ -141,7 +148,7 @@ const ResourceReaderRow kParameterPassReaders[] = {
     {"StitchingParams", readFinishingResource, false},
     {"TrappingDetails", readFinishingResource, false},
     {"TrimmingParams", readFinishingResource, false},
-    {"UsageCounter", readForTicket<readUsageCounterResource>, false},
+    {"UsageCounter", readUsageCounter, false},
     {"WireCombBindingParams", readFinishingResource, false},
     {"morvellan:CalibrationTypeParams", readCalibrationTypeParams, false},
     {"morvellan:RecordInfo", readForTicket<readRecordInfoResource>, false},

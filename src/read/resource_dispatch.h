@@ -8,6 +8,7 @@
 
 #include <cstddef>
 
+#include "read/reader_conversions.h"
 #include "xml/jdf_lists.h"
 
 // One LayoutElement read: its ID and the document made from it.
@@ -29,6 +30,9 @@ struct ResourceReadContext {
     IdElement **mediaList;
     IdElement **fileList;
     LayoutElementPair **layoutElements;
+    // The job's "job-usage-counters" while the ResourcePool is read; one
+    // set after the passes, however many UsageCounters there are.
+    ListAppender *usageCounters;
 };
 
 // name is the element's name as written ("CoverApplicationParams").

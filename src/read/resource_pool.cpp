@@ -11,6 +11,8 @@ zundo_status_t readResourcePoolElement(xercesc::DOMElement *pool, ResourceReadCo
     zundo_status_t status = getElements(pool, &resources).status;
     context->fileList = nullptr;
     context->layoutElements = nullptr;
+    ListAppender usageCounters(getJob(context->ticket), "job-usage-counters");
+    context->usageCounters = &usageCounters;
     runResourcePass(resources, kFileSpecPassReaders, kFileSpecPassReaderCount, context);
     runResourcePass(resources, kLayoutPassReaders, kLayoutPassReaderCount, context);
     runResourcePass(resources, kColourPassReaders, kColourPassReaderCount, context);
@@ -20,6 +22,7 @@ zundo_status_t readResourcePoolElement(xercesc::DOMElement *pool, ResourceReadCo
     freeIdElementList(context->fileList);
     context->layoutElements = nullptr;
     context->fileList = nullptr;
+    context->usageCounters = nullptr;
     zundo_trace("<< Leaving readResourcePoolElement \n");
     return status;
 }

@@ -84,7 +84,7 @@ const xercesc::DOMElement *findResourceAudit(const xercesc::DOMElement *resource
 }
 
 zundo_status_t readUsageCounterResource(xercesc::DOMElement *usageCounter,
-                                        zundo_int_object_s *ticket) {
+                                        ListAppender *usageCounters) {
     zundo_int_object_s *counter = nullptr;
     if (newUsageCounter(&counter) != ZUNDO_OK) return ZUNDO_OK;
     ElementAttribute id(usageCounter, "CounterID");
@@ -101,7 +101,7 @@ zundo_status_t readUsageCounterResource(xercesc::DOMElement *usageCounter,
             setIntegerAttribute(counter, "usage-counter-reason",
                                 codeForJDFName(auditReasonValues, reason.value()));
     }
-    appendAttributeValue(getJob(ticket), "job-usage-counters", counter);
+    if (usageCounters->add(counter) == ZUNDO_NOT_FOUND) destroy(counter);
     return ZUNDO_OK;
 }
 

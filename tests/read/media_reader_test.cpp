@@ -28,7 +28,7 @@ struct MediaList {
     }
 
     ParsedTicket parsed;
-    ResourceReadContext context = {nullptr, nullptr, nullptr, nullptr};
+    ResourceReadContext context = {nullptr, nullptr, nullptr, nullptr, nullptr};
 };
 
 zundo_int_object_s *firstObject(zundo_int_object_s *object, const char *name) {

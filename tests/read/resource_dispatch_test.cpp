@@ -66,7 +66,7 @@ TEST(ResourceDispatch, PassReadsKnownRowsInOrderAndTheFirstDeviceOnly) {
     ASSERT_EQ(ZUNDO_OK, pool.result.status);
     ElementEntry **resources = nullptr;
     ASSERT_EQ(ZUNDO_OK, getElements(pool.root(), &resources).status);
-    ResourceReadContext context{nullptr, nullptr, nullptr, nullptr};
+    ResourceReadContext context{nullptr, nullptr, nullptr, nullptr, nullptr};
     calls().clear();
     runResourcePass(resources, kRecordingRows, 3, &context);
     EXPECT_EQ((std::vector<std::string>{"Media#m1", "Device#d1", "Media#m2"}), calls());

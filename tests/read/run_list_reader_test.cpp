@@ -150,7 +150,7 @@ TEST(RunListReader, InsertSheetTakesACopyOfTheLastMediaItNames) {
         " <Layout PartIDKeys=\"SheetName\"><MediaRef rRef=\"M2\"/><MediaRef rRef=\"none\"/>"
         "  <Layout SheetName=\"S\"><MediaRef rRef=\"M1\"/></Layout></Layout>"
         "</InsertSheet></RunList></RunList>");
-    ResourceReadContext context{nullptr, nullptr, nullptr, nullptr};
+    ResourceReadContext context{nullptr, nullptr, nullptr, nullptr, nullptr};
     for (ElementEntry *entry : ChildElements(media.root()))
         addIdElementToList(entry->element, &context.mediaList, mediaNamedById);
     zundo_int_object_s *job = nullptr;
