@@ -3,8 +3,6 @@
 #include "write/media_writer.h"
 
 #include <cstdlib>
-#include <new>
-#include <string>
 
 #include "values/value_objects.h"
 #include "write/jdf_attr.h"
@@ -93,20 +91,8 @@ zundo_status_t addJobLevelRunRange(MediaReference *record, xercesc::DOMElement *
         record->dppPartition = partition;
         return ZUNDO_OK;
     }
-    AttributeEntry *current = nullptr;
-    getAttrByName(record->dppPartition, "RunIndex", &current);
-    zundo_status_t status = ZUNDO_OK;
-    try {
-        std::string ranges = current != nullptr ? current->value : "";
-        ranges += ' ';
-        ranges += runRange;
-        succeededTraced(setPartitionKey(record->dppPartition, "RunIndex", ranges.c_str()));
-    } catch (const std::bad_alloc &) {
-        traceOutOfMemory("writeMediaForDPP");
-        status = ZUNDO_OUT_OF_MEMORY;
-    }
-    freeAttrEntry(current);
-    return status;
+    succeededTraced(appendToPartitionKey(record->dppPartition, "RunIndex", runRange));
+    return ZUNDO_OK;
 }
 
 }  // namespace

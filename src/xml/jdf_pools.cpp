@@ -130,13 +130,18 @@ int poolRank(const XMLCh *name) {
 }
 
 // Equal positions keep their order of insertion: the new element goes
-// after every child ranked the same.
+// after every child ranked the same. A pool built by these operations is in
+// rank order, so the children ranked after the element are the pool's tail:
+// walking back from the end finds the point after as many steps as there
+// are such children, which keeps writing thousands of resources linear.
 DOMNode *findPoolInsertionPoint(const DOMElement *pool, const DOMElement *element) {
     if (pool == nullptr || element == nullptr) return nullptr;
     int rank = poolRank(element->getTagName());
-    for (DOMNode *child = pool->getFirstChild(); child != nullptr; child = child->getNextSibling())
-        if (nodeRank(child) > rank) return child;
-    return nullptr;
+    DOMNode *point = nullptr;
+    for (DOMNode *child = pool->getLastChild(); child != nullptr && nodeRank(child) > rank;
+         child = child->getPreviousSibling())
+        point = child;
+    return point;
 }
 
 zundo_result_t createResource(DOMElement *resourcePool, DOMElement *linkPool, ResourceInfo *info) {

@@ -23,7 +23,8 @@ struct ResourceInfo {
 // resource name it begins with, or 99999.
 int poolRank(const XMLCh *name);
 const int kUnrankedPoolPosition = 99999;
-// The first child of the pool ranked after `element`, or null for the end.
+// The first child of the pool ranked after `element`, or null for the end;
+// the pool's children must be in rank order, as these operations keep them.
 xercesc::DOMNode *findPoolInsertionPoint(const xercesc::DOMElement *pool,
                                          const xercesc::DOMElement *element);
 

@@ -21,6 +21,13 @@ namespace {
 
 const XMLCh kIndexKey[] = u"zundo-partition-index";
 
+// Key values longer than this are not indexed: partitions are looked up by
+// short values (an index, a page or a range), and a RunIndex that grows
+// range by range would otherwise leave every intermediate text behind.
+const XMLSize_t kLongestIndexedValue = 64;
+
+bool indexable(const XMLCh *value) { return XMLString::stringLen(value) <= kLongestIndexedValue; }
+
 typedef std::u16string Text;
 typedef std::unordered_map<Text, DOMElement *> FirstByValue;
 
@@ -66,7 +73,8 @@ FirstByValue buildFirstByValue(const DOMElement *parent, const XMLCh *key) {
     const XMLCh *name = parent->getTagName();
     for (const DOMElement *at = nextInDocumentOrder(parent, parent); at != nullptr;
          at = nextInDocumentOrder(at, parent)) {
-        if (sameName(at->getTagName(), name) && at->hasAttribute(key))
+        if (sameName(at->getTagName(), name) && at->hasAttribute(key) &&
+            indexable(at->getAttribute(key)))
             first.emplace(Text(at->getAttribute(key)), const_cast<DOMElement *>(at));
     }
     return first;
@@ -90,7 +98,8 @@ bool stillMatches(const DOMElement *element, const DOMElement *parent, const XML
 
 DOMElement *findIndexedPartition(const DOMElement *parent, const XMLCh *key, const XMLCh *value,
                                  bool *failed) {
-    *failed = false;
+    *failed = !indexable(value);
+    if (*failed) return nullptr;
     try {
         PartitionIndex *index = indexOf(parent);
         ParentKey slot{parent, Text(key)};
@@ -110,6 +119,7 @@ DOMElement *findIndexedPartition(const DOMElement *parent, const XMLCh *key, con
 }
 
 void recordPartitionKey(DOMElement *partition, const XMLCh *key, const XMLCh *value) {
+    if (!indexable(value)) return;
     try {
         PartitionIndex *index = indexOf(partition);
         // Every enclosing partition of the same name that has been searched

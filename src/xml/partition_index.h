@@ -18,8 +18,8 @@ XERCES_CPP_NAMESPACE_END
 
 // The first element below parent, at any depth and in document order,
 // named like parent whose attribute key equals value; null when there is
-// none. *failed is set when the index cannot be had (out of memory): the
-// caller then searches itself.
+// none. *failed is set when the index cannot be had (out of memory, or a
+// value too long to be indexed): the caller then searches itself.
 xercesc::DOMElement *findIndexedPartition(const xercesc::DOMElement *parent, const XMLCh *key,
                                           const XMLCh *value, bool *failed);
 

@@ -6,6 +6,7 @@
 #include <xercesc/util/XMLString.hpp>
 
 #include <cstring>
+#include <string>
 
 #include "xml/partition_index.h"
 #include "zundo_trace.h"
@@ -268,6 +269,26 @@ zundo_status_t setPartitionKey(DOMElement *partition, const char *key, const cha
         return ZUNDO_OUT_OF_MEMORY;
     }
     recordPartitionKey(partition, wideKey.get(), wideValue.get());
+    return ZUNDO_OK;
+}
+
+zundo_status_t appendToPartitionKey(DOMElement *partition, const char *key, const char *word) {
+    if (partition == nullptr || key == nullptr || word == nullptr) return ZUNDO_NULL_ARGUMENT;
+    WideText wideKey(key, false);
+    WideText wideWord(word, true);
+    if (wideKey.get() == nullptr || wideWord.get() == nullptr) {
+        traceOutOfMemory("appendToPartitionKey");
+        return ZUNDO_OUT_OF_MEMORY;
+    }
+    try {
+        std::u16string value(partition->getAttribute(wideKey.get()));
+        value += u' ';
+        value += wideWord.get();
+        partition->setAttribute(wideKey.get(), value.c_str());
+        recordPartitionKey(partition, wideKey.get(), value.c_str());
+    } catch (...) {
+        return domFailure("appendToPartitionKey");
+    }
     return ZUNDO_OK;
 }
 

@@ -47,6 +47,10 @@ xercesc::DOMElement *appendPartition(xercesc::DOMElement *parent, const char *ke
 // Gives an existing partition a new value for its key (a RunIndex that
 // grows), the one way to re-key a partition of a document being written.
 zundo_status_t setPartitionKey(xercesc::DOMElement *partition, const char *key, const char *value);
+// Adds a blank and `word` to the value of a partition's key (a RunIndex
+// that lists one more range).
+zundo_status_t appendToPartitionKey(xercesc::DOMElement *partition, const char *key,
+                                    const char *word);
 // With a null firstValue the second-level partition sits directly under
 // the resource and PartIDKeys becomes secondKey alone.
 xercesc::DOMElement *findOrCreateSubPartition(xercesc::DOMElement *resource, const char *firstKey,
