@@ -4,7 +4,6 @@
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
-#include <xercesc/dom/DOMUserDataHandler.hpp>
 #include <xercesc/util/XMLString.hpp>
 
 #include <algorithm>
@@ -12,11 +11,11 @@
 #include <string>
 #include <unordered_map>
 
+#include "xml/document_registry.h"
+
 XERCES_CPP_NAMESPACE_USE
 
 namespace {
-
-const XMLCh kIndexKey[] = u"zundo-link-index";
 
 typedef std::unordered_map<std::u16string, std::vector<DOMElement *>> LinksByReference;
 typedef std::unordered_map<std::u16string, DOMElement *> FirstHolderByReference;
@@ -30,39 +29,21 @@ struct LinkIndex {
         holders;
 };
 
-// Frees the index when the DOM frees its document.
-class IndexReleaser : public DOMUserDataHandler {
-public:
-    void handle(DOMOperationType operation, const XMLCh *, void *data, const DOMNode *,
-                DOMNode *) override {
-        if (operation == NODE_DELETED) delete static_cast<LinkIndex *>(data);
-    }
-};
-
-IndexReleaser releaser;
+DocumentRegistry<LinkIndex> indexes;
 
 LinkIndex *existingIndex(const DOMElement *element) {
-    return static_cast<LinkIndex *>(element->getOwnerDocument()->getUserData(kIndexKey));
+    return indexes.find(element->getOwnerDocument());
 }
 
 LinkIndex *indexOf(const DOMElement *element) {
-    LinkIndex *index = existingIndex(element);
-    if (index == nullptr) {
-        index = new LinkIndex();
-        element->getOwnerDocument()->setUserData(kIndexKey, index, &releaser);
-    }
-    return index;
+    return indexes.obtain(element->getOwnerDocument());
 }
 
 bool named(const DOMElement *element, const XMLCh *name) {
     return XMLString::equals(element->getTagName(), name);
 }
 
-void dropIndex(const DOMElement *element) {
-    DOMDocument *document = element->getOwnerDocument();
-    delete static_cast<LinkIndex *>(document->getUserData(kIndexKey));
-    document->setUserData(kIndexKey, nullptr, nullptr);
-}
+void dropIndex(const DOMElement *element) { indexes.forget(element->getOwnerDocument()); }
 
 bool precedes(DOMElement *a, DOMElement *b) {
     return (b->compareDocumentPosition(a) & DOMNode::DOCUMENT_POSITION_PRECEDING) != 0;
@@ -133,3 +114,5 @@ const DOMElement *findHolderOfReference(const DOMElement *parent, const XMLCh *c
         return nullptr;
     }
 }
+
+void forgetLinkIndex(const DOMDocument *document) { indexes.forget(document); }

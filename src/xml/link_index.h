@@ -3,8 +3,8 @@
 // many links the pool holds. Without it, reading a ticket with thousands
 // of Media resources and their links is quadratic.
 //
-// The index of a pool is built by one walk on its first search and hangs
-// on the document, freed with it. Links put into a searched pool must be
+// The index of a pool is built by one walk on its first search and lives
+// beside the document (document_registry.h). Links put into a searched pool must be
 // recorded with recordInsertedLink once they carry their rRef; links are
 // never renamed, re-pointed or removed.
 #ifndef ZUNDO_XML_LINK_INDEX_H
@@ -15,6 +15,7 @@
 #include <vector>
 
 XERCES_CPP_NAMESPACE_BEGIN
+class DOMDocument;
 class DOMElement;
 XERCES_CPP_NAMESPACE_END
 
@@ -34,5 +35,7 @@ void recordInsertedLink(const xercesc::DOMElement *pool, xercesc::DOMElement *el
 const xercesc::DOMElement *findHolderOfReference(const xercesc::DOMElement *parent,
                                                  const XMLCh *childName, const XMLCh *linkName,
                                                  const XMLCh *reference);
+
+void forgetLinkIndex(const xercesc::DOMDocument *document);
 
 #endif

@@ -5,7 +5,6 @@
 
 #include <xercesc/dom/DOMDocument.hpp>
 #include <xercesc/dom/DOMElement.hpp>
-#include <xercesc/dom/DOMUserDataHandler.hpp>
 #include <xercesc/util/XMLString.hpp>
 
 #include <functional>
@@ -13,13 +12,12 @@
 #include <string>
 #include <unordered_map>
 
+#include "xml/document_registry.h"
 #include "xml/jdf_entries.h"
 
 XERCES_CPP_NAMESPACE_USE
 
 namespace {
-
-const XMLCh kIndexKey[] = u"zundo-partition-index";
 
 // Key values longer than this are not indexed: partitions are looked up by
 // short values (an index, a page or a range), and a RunIndex that grows
@@ -47,25 +45,10 @@ struct ParentKeyHash {
 
 typedef std::unordered_map<ParentKey, FirstByValue, ParentKeyHash> PartitionIndex;
 
-// Frees the index when the DOM frees its document.
-class IndexReleaser : public DOMUserDataHandler {
-public:
-    void handle(DOMOperationType operation, const XMLCh *, void *data, const DOMNode *,
-                DOMNode *) override {
-        if (operation == NODE_DELETED) delete static_cast<PartitionIndex *>(data);
-    }
-};
-
-IndexReleaser releaser;
+DocumentRegistry<PartitionIndex> indexes;
 
 PartitionIndex *indexOf(const DOMElement *element) {
-    DOMDocument *document = element->getOwnerDocument();
-    auto *index = static_cast<PartitionIndex *>(document->getUserData(kIndexKey));
-    if (index == nullptr) {
-        index = new PartitionIndex();
-        document->setUserData(kIndexKey, index, &releaser);
-    }
-    return index;
+    return indexes.obtain(element->getOwnerDocument());
 }
 
 FirstByValue buildFirstByValue(const DOMElement *parent, const XMLCh *key) {
@@ -141,8 +124,8 @@ void recordPartitionKey(DOMElement *partition, const XMLCh *key, const XMLCh *va
     } catch (const std::bad_alloc &) {
         // An index that missed a partition cannot be trusted: drop it, the
         // next search builds a new one.
-        DOMDocument *document = partition->getOwnerDocument();
-        delete static_cast<PartitionIndex *>(document->getUserData(kIndexKey));
-        document->setUserData(kIndexKey, nullptr, nullptr);
+        forgetPartitionIndex(partition->getOwnerDocument());
     }
 }
+
+void forgetPartitionIndex(const DOMDocument *document) { indexes.forget(document); }

@@ -3,7 +3,7 @@
 // resource already has. Without it every lookup walks the whole subtree,
 // and writing a ticket with thousands of page ranges becomes quadratic.
 //
-// The index hangs on the document and is freed with it. It sees the
+// The index lives beside the document (document_registry.h). It sees the
 // partitions that exist when a parent is first searched and those made
 // through appendPartition or given a key through setPartitionKey afterwards;
 // partitions must not be added or re-keyed in any other way.
@@ -13,6 +13,7 @@
 #include <xercesc/util/XercesDefs.hpp>
 
 XERCES_CPP_NAMESPACE_BEGIN
+class DOMDocument;
 class DOMElement;
 XERCES_CPP_NAMESPACE_END
 
@@ -26,5 +27,7 @@ xercesc::DOMElement *findIndexedPartition(const xercesc::DOMElement *parent, con
 // Records that partition now carries key = value, having just been
 // appended or given a new value for its key.
 void recordPartitionKey(xercesc::DOMElement *partition, const XMLCh *key, const XMLCh *value);
+
+void forgetPartitionIndex(const xercesc::DOMDocument *document);
 
 #endif

@@ -5,6 +5,9 @@
 #include <xercesc/dom/DOMImplementation.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 
+#include "xml/document_registry.h"
+#include "xml/link_index.h"
+#include "xml/partition_index.h"
 #include "xml/xml_document.h"
 #include "zundo_trace.h"
 
@@ -67,6 +70,12 @@ zundo_result_t createDOMDocument(DOMDocumentInfo *info) {
 
 zundo_result_t releaseDOMDocument(DOMDocument *document) {
     if (document == nullptr) return zundoResult(ZUNDO_NULL_ARGUMENT);
+    forgetDocumentIndexes(document);
     document->release();
     return zundoResult(ZUNDO_OK);
+}
+
+void forgetDocumentIndexes(const DOMDocument *document) {
+    forgetPartitionIndex(document);
+    forgetLinkIndex(document);
 }

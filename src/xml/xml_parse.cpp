@@ -6,6 +6,7 @@
 
 #include <cstring>
 
+#include "xml/document_registry.h"
 #include "xml/parser_error_handler.h"
 #include "xml/ticket_parser.h"
 #include "xml/xml_document.h"
@@ -95,6 +96,7 @@ zundo_result_t freeDOMDocumentInfo(DOMDocumentInfo *info) {
     if (info == nullptr) return zundoResult(ZUNDO_NULL_ARGUMENT);
     if (info->parser != nullptr) {
         // A parsed document belongs to its parser and goes with it.
+        forgetDocumentIndexes(info->document);
         delete info->parser;
         info->parser = nullptr;
         info->document = nullptr;
