@@ -190,9 +190,9 @@ TEST(WriteRuns, DocumentLevelRunsNumberOnAndShareContainers) {
     EXPECT_EQ(written.resource("Container1"), nullptr);
     EXPECT_EQ(attribute(written.resource("Container0"), "URL"), "box.zip");
     EXPECT_EQ(attribute(written.resource("Container0"), "MimeType"), "application/zip");
-    for (xercesc::DOMElement *spec : {firstSpec, secondSpec}) {
-        EXPECT_EQ(attribute(spec, "Compression"), "Deflate");
-        std::vector<xercesc::DOMElement *> holders = childElements(spec, "Container");
+    for (xercesc::DOMElement *fileSpec : {firstSpec, secondSpec}) {
+        EXPECT_EQ(attribute(fileSpec, "Compression"), "Deflate");
+        std::vector<xercesc::DOMElement *> holders = childElements(fileSpec, "Container");
         ASSERT_EQ(holders.size(), 1u);
         std::vector<xercesc::DOMElement *> refsTo = childElements(holders[0], "FileSpecRef");
         ASSERT_EQ(refsTo.size(), 1u);
