@@ -3,6 +3,8 @@
 // document and every list die before the read returns.
 #include "read/read_driver.h"
 
+#include <new>
+
 #include <strings.h>
 
 #include <cstring>
@@ -105,9 +107,18 @@ zundo_result_t readJDFString(const char *text, zundo_int_object_s *ticket) {
     if (opened.status != ZUNDO_OK) return opened;
 
     JDFNodeInfo node{};
-    status = readJDFNodeInfo(&document, &node, ticket);
-    if (status == ZUNDO_OK) status = readJDFNodeAttributes(node.element, ticket);
-    if (status == ZUNDO_OK) readJDFBody(&node, ticket);
+    // The readers handle running out of memory where they can go on; what
+    // they do not catch ends the read here, never in the caller.
+    try {
+        status = readJDFNodeInfo(&document, &node, ticket);
+        if (status == ZUNDO_OK) status = readJDFNodeAttributes(node.element, ticket);
+        if (status == ZUNDO_OK) readJDFBody(&node, ticket);
+    } catch (const std::bad_alloc &) {
+        traceOutOfMemory("readJDFString");
+        status = ZUNDO_OUT_OF_MEMORY;
+    } catch (...) {
+        status = domFailure("readJDFString");
+    }
 
     freeJDFNodeInfo(&node);
     releaseJobTicketDocument(&document);

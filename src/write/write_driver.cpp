@@ -1,10 +1,13 @@
 // Building, serialising and releasing the document of one written ticket.
 #include "write/write_driver.h"
 
+#include <new>
+
 #include "write/comments.h"
 #include "write/jdf_root.h"
 #include "write/object_values.h"
 #include "write/writer_order.h"
+#include "xml/jdf_entries.h"
 #include "xml/xml_document.h"
 #include "zundo_trace.h"
 
@@ -38,15 +41,25 @@ zundo_status_t writeJDFString(JDFWriteContext *ctx, zundo_int_object_s *jobTicke
         setControlCharacterDecoding(decoding);
         return ZUNDO_ERROR;
     }
-    addComment(ctx->root, getZUNDOCurrentVersion(), nullptr, "morvellan:ApiVersion");
-    FetchedAttribute comment(jobTicket, "jt-comment");
-    addComment(ctx->root, comment.firstString(), nullptr, "TemplateDescription");
-    runWriters(ctx, jobTicket, job);
-    char *text = serializeDOMDocument(ctx->document);
+    char *text = nullptr;
+    // The writers handle running out of memory where they can go on; what
+    // they do not catch ends the write here, never in the caller.
+    try {
+        addComment(ctx->root, getZUNDOCurrentVersion(), nullptr, "morvellan:ApiVersion");
+        FetchedAttribute comment(jobTicket, "jt-comment");
+        addComment(ctx->root, comment.firstString(), nullptr, "TemplateDescription");
+        runWriters(ctx, jobTicket, job);
+        text = serializeDOMDocument(ctx->document);
+    } catch (const std::bad_alloc &) {
+        traceOutOfMemory("writeJDFString");
+        status = ZUNDO_OUT_OF_MEMORY;
+    } catch (...) {
+        status = domFailure("writeJDFString");
+    }
     releaseWriterContext(ctx);
     releaseDOMDocument(ctx->document);
     *out = text;
     setControlCharacterDecoding(decoding);
     zundo_trace("<< leaving writeJDFString\n");
-    return ZUNDO_OK;
+    return status;
 }
