@@ -270,10 +270,15 @@ zundo_status_t genericSet(const zundo_attribute_info_s *table, int rows, void *d
                 *static_cast<const double *>(valueAt(attribute, 0));
         return ZUNDO_OK;
     }
+    // The new array is made first: when that fails the field keeps its old
+    // values, which the incoming attribute may share.
+    void **values = nullptr;
+    zundo_status_t status = buildValueArray(row, attribute, &values);
+    if (status != ZUNDO_OK) return status;
     void ***field = pointerField(data, row);
     freeValueList(row->kind, *field, attribute);
-    *field = nullptr;
-    return buildValueArray(row, attribute, field);
+    *field = values;
+    return ZUNDO_OK;
 }
 
 void initializeNotSetValues(const zundo_attribute_info_s *table, void *data) {

@@ -330,10 +330,14 @@ void readHoleList(zundo_int_object_s *media, xercesc::DOMElement *element) {
     for (ElementEntry *child : children) {
         if (std::strcmp(child->name, "Hole") == 0) {
             zundo_int_object_s *hole = readHole(child->element);
-            if (hole != nullptr) appendAttributeValue(list, "hole-list-holes", hole);
+            if (hole != nullptr &&
+                appendAttributeValue(list, "hole-list-holes", hole) == ZUNDO_NOT_FOUND)
+                destroy(hole);
         } else if (std::strcmp(child->name, "HoleLine") == 0) {
             zundo_int_object_s *line = readHoleLine(child->element);
-            if (line != nullptr) appendAttributeValue(list, "hole-list-hole-lines", line);
+            if (line != nullptr &&
+                appendAttributeValue(list, "hole-list-hole-lines", line) == ZUNDO_NOT_FOUND)
+                destroy(line);
         }
     }
     if (setObjectAttribute(media, "media-hole-list", list) != ZUNDO_OK) destroy(list);

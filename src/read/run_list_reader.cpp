@@ -157,9 +157,12 @@ void readSheetFolding(const xercesc::DOMElement *foldingParams, SheetContent *co
     AttributeEntry **attrs = nullptr;
     getAttrs(foldingParams, &attrs);
     zundo_int_object_s *folding = nullptr;
+    // The builder may hand out an object with a failing status; it is ours.
     if (createFoldingObject(&folding, attrs, nullptr, nullptr) == ZUNDO_OK) {
         if (content->folding != nullptr) destroy(content->folding);
         content->folding = folding;
+    } else if (folding != nullptr) {
+        destroy(folding);
     }
     freeAttrList(attrs);
 }
@@ -209,6 +212,10 @@ zundo_status_t addStartPage(ListAppender *startPages, const char *attribute, int
             setDescription(startPage, codeForJDFName(startPageDescriptionValues, description));
         status = startPages->add(startPage);
         if (status == ZUNDO_OK) return status;
+        if (status == ZUNDO_NOT_FOUND) {
+            destroyStartPage(startPage);
+            return status;
+        }
         zundo_trace("call to addValue failed for %s: internal error \n", attribute);
     }
     return status;
@@ -250,7 +257,9 @@ zundo_status_t addInsertSheet(ListAppender *insertSheets, int kind,
         setObjectAttribute(sheet, "insert-sheet-folding", content.folding) != ZUNDO_OK)
         destroy(content.folding);
     if (described) setIntegerAttribute(sheet, "insert-sheet-content", kDescribedContent);
-    return insertSheets->add(sheet);
+    zundo_status_t added = insertSheets->add(sheet);
+    if (added == ZUNDO_NOT_FOUND) destroy(sheet);
+    return added;
 }
 
 // The InsertSheets of the given Run (of every Run when none is given) to

@@ -284,16 +284,23 @@ TEST(FinishingRead, CoverTransformation) {
     }
 }
 
-// An InsertSheet's own FoldingParams folds that sheet.
+// An InsertSheet's own FoldingParams folds that sheet; one whose fold the
+// folding refuses (a blank FoldCatalog) folds nothing and leaks nothing.
 TEST(FinishingRead, InsertSheetFolding) {
-    ReadTicket read(jdfTicket(pools(
-        "<LayoutElement ID=\"LE0\"/><RunList ID=\"RL\" PartIDKeys=\"Run\">"
-        "<RunList Run=\"0\" Pages=\"0~4\"><LayoutElementRef rRef=\"LE0\"/>"
-        "<InsertSheet SheetType=\"InsertSheet\" SheetUsage=\"Header\">"
-        "<FoldingParams FoldCatalog=\"F4-2\"/></InsertSheet></RunList></RunList>")));
-    ASSERT_EQ(read.result.status, ZUNDO_OK);
-    zundo_int_object_s *sheet = firstObjectIn(read.job(), "job-insert-sheets");
-    EXPECT_EQ(textOf(firstObjectIn(sheet, "insert-sheet-folding"), "folding-type"), "F4-2");
+    for (const char *catalog : {"F4-2", " "}) {
+        ReadTicket read(jdfTicket(pools(
+            "<LayoutElement ID=\"LE0\"/><RunList ID=\"RL\" PartIDKeys=\"Run\">"
+            "<RunList Run=\"0\" Pages=\"0~4\"><LayoutElementRef rRef=\"LE0\"/>"
+            "<InsertSheet SheetType=\"InsertSheet\" SheetUsage=\"Header\">"
+            "<FoldingParams FoldCatalog=\"" + std::string(catalog) +
+            "\"/></InsertSheet></RunList></RunList>")));
+        ASSERT_EQ(read.result.status, ZUNDO_OK);
+        zundo_int_object_s *sheet = firstObjectIn(read.job(), "job-insert-sheets");
+        ASSERT_NE(sheet, nullptr) << catalog;
+        zundo_int_object_s *folding = firstObjectIn(sheet, "insert-sheet-folding");
+        if (catalog[0] == ' ') EXPECT_EQ(folding, nullptr);
+        else EXPECT_EQ(textOf(folding, "folding-type"), "F4-2");
+    }
 }
 
 }  // namespace
