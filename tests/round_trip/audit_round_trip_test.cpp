@@ -6,22 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "support/ticket_builders.h"
 #include "zundo.h"
 
 namespace {
-
-struct TicketDeleter {
-    void operator()(zundo_int_object_s *o) const { destroy(o); }
-};
-using TicketPtr = std::unique_ptr<zundo_int_object_s, TicketDeleter>;
-
-TicketPtr newTicket() {
-    zundo_int_object_s *document = nullptr, *job = nullptr, *ticket = nullptr;
-    EXPECT_EQ(ZUNDO_OK, newDocument(&document, "body.pdf"));
-    EXPECT_EQ(ZUNDO_OK, newJob(&job, document));
-    EXPECT_EQ(ZUNDO_OK, newJobTicketInfoFromJob(&ticket, job));
-    return TicketPtr(ticket);
-}
 
 // The ticket written and read back; the written text for messages.
 TicketPtr writeAndRead(zundo_int_object_s *ticket, std::string *text) {
@@ -43,19 +31,6 @@ void expectSameAttributes(zundo_int_object_s *original, zundo_int_object_s *copy
         destroyAttribute(a);
         destroyAttribute(b);
     }
-}
-
-zundo_date_time_s *at(const char *text) {
-    zundo_date_time_s *time = nullptr;
-    EXPECT_EQ(ZUNDO_OK, newDateTimeFromString(&time, text));
-    return time;
-}
-
-void addObject(zundo_int_object_s *job, const char *name, zundo_int_object_s *object) {
-    zundo_int_attribute_s *list = get(job, name);
-    ASSERT_EQ(ZUNDO_OK, addValue(list, object));
-    ASSERT_EQ(ZUNDO_OK, set(job, list));
-    destroyAttribute(list);
 }
 
 TEST(AuditRoundTrip, CustomerAndNodeInformationComeBack) {

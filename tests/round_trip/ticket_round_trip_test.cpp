@@ -6,22 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "support/ticket_builders.h"
 #include "zundo.h"
 
 namespace {
-
-struct TicketDeleter {
-    void operator()(zundo_int_object_s *o) const { destroy(o); }
-};
-using TicketPtr = std::unique_ptr<zundo_int_object_s, TicketDeleter>;
-
-TicketPtr newTicket() {
-    zundo_int_object_s *document = nullptr, *job = nullptr, *ticket = nullptr;
-    EXPECT_EQ(ZUNDO_OK, newDocument(&document, "body.pdf"));
-    EXPECT_EQ(ZUNDO_OK, newJob(&job, document));
-    EXPECT_EQ(ZUNDO_OK, newJobTicketInfoFromJob(&ticket, job));
-    return TicketPtr(ticket);
-}
 
 std::string write(zundo_int_object_s *ticket) {
     char *text = nullptr;

@@ -6,22 +6,10 @@
 #include <vector>
 
 #include "read/audit_pool_reader.h"
+#include "support/ticket_builders.h"
 #include "write_test_support.h"
 
 namespace {
-
-zundo_date_time_s *at(const char *text) {
-    zundo_date_time_s *time = nullptr;
-    EXPECT_EQ(ZUNDO_OK, newDateTimeFromString(&time, text));
-    return time;
-}
-
-void addObject(zundo_int_object_s *object, const char *name, zundo_int_object_s *value) {
-    zundo_int_attribute_s *list = get(object, name);
-    ASSERT_EQ(ZUNDO_OK, addValue(list, value));
-    ASSERT_EQ(ZUNDO_OK, set(object, list));
-    destroyAttribute(list);
-}
 
 TEST(AuditWriters, HoldStateDecidesActivationAndDetails) {
     struct Case {
